@@ -1,0 +1,2 @@
+// The program zelhost.
+int main() { return 0; }

@@ -1,0 +1,2 @@
+// The program zelto-tv.
+int main() { return 0; }

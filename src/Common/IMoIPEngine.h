@@ -1,0 +1,100 @@
+// What a television's framework sees of the engine: the interface, its records and the two entry points.
+// This is the only header a host needs; it includes nothing but the standard library.
+#pragma once
+
+#include <string>
+
+#if defined(__GNUC__)
+#define ZELTO_EXPORT __attribute__((visibility("default")))
+#else
+#define ZELTO_EXPORT
+#endif
+
+// An event on its way to the host. Types of 256 and above are engine events, those below are public
+// events (docs/integrating.md lists both). The parameters are NUL-terminated texts or null; the engine
+// frees them right after the callback returned, so the host copies what it keeps.
+// For public event 17 parameter 1 is no text but a notice record.
+struct CEngineEvent {
+  int type;
+  char* param1;
+  char* param2;
+};
+
+// Base of the records that public events carry.
+class CEngineData {
+ public:
+  virtual ~CEngineData() = default;
+};
+
+// Audio or video on its way between host and engine. Never owned by the receiver: the data is valid
+// during the call only.
+struct CAVData {
+  int type;            // 0 audio samples; other values are video and control records
+  int value;           // per record: time stamp of a video frame, else 0
+  unsigned int size;   // bytes at data
+  unsigned char* data;
+};
+
+// Host functions. They may be called from any of the engine's threads; the event callback and the
+// control function are never entered by two threads at once. None may throw.
+using MoIPEventCallback = bool (*)(const CEngineEvent* event, void* user);
+using MoIPDataCallback = bool (*)(const CAVData* data, void* user, void* extra);
+using MoIPCommonCtrlFunc = const char* (*)(const char* cmd, const char* p1, const char* p2, const char* p3,
+                                           const char* p4, void* user);
+
+// The engine as the host drives it. The order of the virtual operations is the binary interface.
+// Threads: every operation may be called from any host thread, but not from inside a host function.
+class IMoIPEngine {
+ public:
+  // Runs one of the string commands. Null texts count as empty. The answer is the engine's; it stays
+  // valid until four further commands have run. Unknown commands answer the empty text.
+  virtual const char* Execute(const char* cmd, const char* p1, const char* p2, const char* p3,
+                              const char* p4) = 0;
+  // Stores the event callback; null stops the delivery.
+  virtual void RegisterEventCallback(MoIPEventCallback callback, void* user) = 0;
+  // Takes a record of microphone audio (type 0) or camera video; null is ignored. The record is copied.
+  virtual void OnData(const CAVData* data) = 0;
+  // Stores the data callback and loads the service: register the other two functions first.
+  virtual void RegisterDataCallback(MoIPDataCallback callback, void* user) = 0;
+  // Stores the function through which the engine asks the television to act.
+  virtual void RegisterCommonCtrlFunc(MoIPCommonCtrlFunc function, void* user) = 0;
+
+  virtual ~IMoIPEngine() = default;
+
+  // Queries: true when the answer is complete; results are written only then, except that
+  // GetContactInfo may already have filled id and displayName when a later step fails.
+  virtual bool IsInMyContact(const std::string& email, std::string& id);
+  virtual bool IsLoggedIn(std::string& id);
+  virtual bool GetRecentCall(const int& index, int& kind, std::string& id, std::string& displayName,
+                             int& timestamp);
+  virtual bool GetContactInfo(const int& index, std::string& id, std::string& displayName, int& status,
+                              std::string& avatarPath);
+  virtual bool GetContactImage(const std::string& id, std::string& path);
+  virtual bool GetContactStatus(const std::string& id, int& status);
+  virtual bool PlaceCall(const std::string& target, int type);
+  virtual bool PlayMail(int timestamp);
+  virtual bool GetMobilePhoneNumber(const std::string& id, std::string& number);
+  virtual bool GetHomePhoneNumber(const std::string& id, std::string& number);
+  virtual bool GetOfficePhoneNumber(const std::string& id, std::string& number);
+};
+
+inline bool IMoIPEngine::IsInMyContact(const std::string&, std::string&) { return false; }
+inline bool IMoIPEngine::IsLoggedIn(std::string&) { return false; }
+inline bool IMoIPEngine::GetRecentCall(const int&, int&, std::string&, std::string&, int&) { return false; }
+inline bool IMoIPEngine::GetContactInfo(const int&, std::string&, std::string&, int&, std::string&) {
+  return false;
+}
+inline bool IMoIPEngine::GetContactImage(const std::string&, std::string&) { return false; }
+inline bool IMoIPEngine::GetContactStatus(const std::string&, int&) { return false; }
+inline bool IMoIPEngine::PlaceCall(const std::string&, int) { return false; }
+inline bool IMoIPEngine::PlayMail(int) { return false; }
+inline bool IMoIPEngine::GetMobilePhoneNumber(const std::string&, std::string&) { return false; }
+inline bool IMoIPEngine::GetHomePhoneNumber(const std::string&, std::string&) { return false; }
+inline bool IMoIPEngine::GetOfficePhoneNumber(const std::string&, std::string&) { return false; }
+
+extern "C" {
+// The engine; repeated calls answer the same object. Null when it cannot be built.
+ZELTO_EXPORT IMoIPEngine* engine_create();
+// Ends the engine and everything it started, within 8 seconds. Null is ignored.
+ZELTO_EXPORT void engine_destroy(IMoIPEngine* engine);
+}
