@@ -11,4 +11,7 @@ namespace zelto {
 // The variable is read at every call, so that engines in one process can be given roots in turn.
 std::string DevicePath(const std::string& path);
 
+// The same path as a word of a shell command; quoted only where it holds more than plain characters.
+std::string ShellPath(const std::string& path);
+
 }  // namespace zelto

@@ -34,6 +34,9 @@ std::vector<char*> Pointers(const std::vector<std::string>& texts) {
   return pointers;
 }
 
+// The child shares no lock with a living thread, so it writes past the buffered stream.
+void Say(const std::string& text) { (void)!write(STDOUT_FILENO, text.data(), text.size()); }
+
 // Runs in the child between fork and exec: only calls that are safe there.
 [[noreturn]] void BecomeProgram(const SpawnRequest& request, char* const* arguments, char* const* environment) {
   if (request.closeDescriptors) {
@@ -41,11 +44,9 @@ std::vector<char*> Pointers(const std::vector<std::string>& texts) {
       fcntl(descriptor, F_SETFD, FD_CLOEXEC);
     }
   }
-  if (!request.directory.empty() && chdir(request.directory.c_str()) != 0) {
-    constexpr char message[] = "error chdir\n";
-    (void)!write(STDERR_FILENO, message, sizeof message - 1);
-  }
+  if (!request.directory.empty() && chdir(request.directory.c_str()) != 0) Say(request.directoryFailure);
   execve(request.executable.c_str(), arguments, environment);
+  Say(request.executionFailure);
   _exit(0);
 }
 
@@ -103,6 +104,8 @@ int Platform::WaitReadable(int descriptor, int milliseconds) {
 }
 
 int Platform::Open(const char* path, int flags, mode_t mode) { return open(path, flags | O_CLOEXEC, mode); }
+
+void Platform::Sync() { sync(); }
 
 key_t Platform::Ftok(const char* path, int project) { return ftok(path, project); }
 

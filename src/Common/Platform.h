@@ -22,6 +22,8 @@ struct SpawnRequest {
   std::vector<std::string> environment;   // whole "NAME=value" list; empty keeps the parent's
   std::string directory;                  // changed to before the execution; empty stays
   bool closeDescriptors = false;          // descriptors 3 to 1023 become close-on-exec in the child
+  std::string directoryFailure;           // printed by the child when the directory can't be entered
+  std::string executionFailure;           // printed by the child when the execution fails
 };
 
 // Threads: all operations may be called from any thread.
@@ -59,6 +61,8 @@ class Platform {
   // Answers 1 ready, 0 timed out, -1 with errno. Any descriptor number is fine.
   virtual int WaitReadable(int descriptor, int milliseconds);
   virtual int Open(const char* path, int flags, mode_t mode);
+  // Writes what the system still holds to the disks.
+  virtual void Sync();
 
   // System V shared memory, as the calls of the same name.
   virtual key_t Ftok(const char* path, int project);
