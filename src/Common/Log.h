@@ -17,7 +17,7 @@ inline bool LogEnabled(LogLevel level) {
 
 // Prints the level's tag ("[ZELTO_FATAL]", "[ZELTO_WARNING]", "[ZELTO_DEBUG]", "[ZELTO_INFO]") and the
 // message in one piece. The message carries its own line feed or gets one. Text from outside the
-// engine is always an argument, never the format. Any thread; never fails.
+// engine is always an argument, never the format. Any thread; never fails and leaves errno alone.
 __attribute__((format(printf, 2, 3))) void Log(LogLevel level, const char* format, ...);
 
 // The same line without tag and at every level, for what is printed unconditionally.
@@ -26,8 +26,8 @@ __attribute__((format(printf, 1, 2))) void Print(const char* format, ...);
 }  // namespace zelto
 
 // Arguments are evaluated only when the level is on: these stand on hot paths.
-#define ZELTO_LOG(level, ...) \
-  do { \
+#define ZELTO_LOG(level, ...)                                         \
+  do {                                                                \
     if (::zelto::LogEnabled(level)) ::zelto::Log(level, __VA_ARGS__); \
   } while (false)
 #define ZELTO_FATAL(...) ZELTO_LOG(::zelto::LogLevel::Fatal, __VA_ARGS__)

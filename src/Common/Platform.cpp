@@ -1,24 +1,27 @@
 #include "Common/Platform.h"
 
+#include <fcntl.h>
+#include <poll.h>
+#include <sched.h>
+#include <sys/ipc.h>
+#include <sys/resource.h>
+#include <sys/shm.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 #include <cerrno>
 #include <csignal>
 #include <ctime>
-#include <fcntl.h>
-#include <poll.h>
-#include <sys/ipc.h>
-#include <sys/shm.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <atomic>
+#include <cstring>
 
 namespace zelto {
 
 namespace {
 
 constexpr std::int64_t kNanosecondsPerSecond = 1'000'000'000;
-constexpr int kFirstInheritedDescriptor = 3;
-constexpr int kLastInheritedDescriptor = 1023;
+constexpr int kHighestNice = -20;
 
 std::int64_t ReadClock(clockid_t clock) {
   timespec now{};
@@ -26,28 +29,9 @@ std::int64_t ReadClock(clockid_t clock) {
   return now.tv_sec * kNanosecondsPerSecond + now.tv_nsec;
 }
 
-std::vector<char*> Pointers(const std::vector<std::string>& texts) {
-  std::vector<char*> pointers;
-  pointers.reserve(texts.size() + 1);
-  for (const std::string& text : texts) pointers.push_back(const_cast<char*>(text.c_str()));
-  pointers.push_back(nullptr);
-  return pointers;
-}
-
-// The child shares no lock with a living thread, so it writes past the buffered stream.
-void Say(const std::string& text) { (void)!write(STDOUT_FILENO, text.data(), text.size()); }
-
-// Runs in the child between fork and exec: only calls that are safe there.
-[[noreturn]] void BecomeProgram(const SpawnRequest& request, char* const* arguments, char* const* environment) {
-  if (request.closeDescriptors) {
-    for (int descriptor = kFirstInheritedDescriptor; descriptor <= kLastInheritedDescriptor; ++descriptor) {
-      fcntl(descriptor, F_SETFD, FD_CLOEXEC);
-    }
-  }
-  if (!request.directory.empty() && chdir(request.directory.c_str()) != 0) Say(request.directoryFailure);
-  execve(request.executable.c_str(), arguments, environment);
-  Say(request.executionFailure);
-  _exit(0);
+timespec ClockAfter(clockid_t clock, std::int64_t nanoseconds) {
+  const std::int64_t end = ReadClock(clock) + nanoseconds;
+  return {end / kNanosecondsPerSecond, end % kNanosecondsPerSecond};
 }
 
 Platform g_operatingSystem;
@@ -62,27 +46,46 @@ std::int64_t Platform::WallClock() { return ReadClock(CLOCK_REALTIME) / 1000; }
 void Platform::Sleep(std::int64_t nanoseconds) {
   if (nanoseconds <= 0) return;
   timespec left{nanoseconds / kNanosecondsPerSecond, nanoseconds % kNanosecondsPerSecond};
-  while (nanosleep(&left, &left) != 0 && errno == EINTR) {}
+  while (nanosleep(&left, &left) != 0 && errno == EINTR) {
+  }
 }
 
 int Platform::CreateThread(pthread_t* handle, void* (*body)(void*), void* argument) {
   return pthread_create(handle, nullptr, body, argument);
 }
 
-pid_t Platform::Spawn(const SpawnRequest& request) {
-  const std::vector<char*> arguments = Pointers(request.arguments);
-  const std::vector<char*> environment = Pointers(request.environment);
-  char* const* variables = request.environment.empty() ? environ : environment.data();
-  const pid_t pid = fork();
-  if (pid == 0) BecomeProgram(request, arguments.data(), variables);
-  return pid;
+int Platform::RaiseThreadPriority() {
+  setpriority(PRIO_PROCESS, 0, kHighestNice);
+  sched_param priority{};
+  priority.sched_priority = sched_get_priority_max(SCHED_FIFO);
+  sched_setscheduler(0, SCHED_FIFO, &priority);
+  return nice(0);
+}
+
+int Platform::WaitCondition(pthread_cond_t* condition, pthread_mutex_t* mutex, std::int64_t nanoseconds) {
+  if (nanoseconds <= 0) return ETIMEDOUT;
+  const timespec end = ClockAfter(CLOCK_MONOTONIC, nanoseconds);
+  return pthread_cond_clockwait(condition, mutex, CLOCK_MONOTONIC, &end);
+}
+
+int Platform::LockMutex(pthread_mutex_t* mutex, std::int64_t nanoseconds) {
+  if (nanoseconds <= 0) return pthread_mutex_trylock(mutex);
+#if defined(__SANITIZE_THREAD__)  // which does not know the other call
+  const timespec end = ClockAfter(CLOCK_REALTIME, nanoseconds);
+  return pthread_mutex_timedlock(mutex, &end);
+#else
+  const timespec end = ClockAfter(CLOCK_MONOTONIC, nanoseconds);
+  return pthread_mutex_clocklock(mutex, CLOCK_MONOTONIC, &end);
+#endif
 }
 
 pid_t Platform::WaitPid(pid_t pid, int* status, int options) { return waitpid(pid, status, options); }
 
 int Platform::Kill(pid_t pid, int signal) { return kill(pid, signal); }
 
-int Platform::Socket(int family, int type, int protocol) { return socket(family, type | SOCK_CLOEXEC, protocol); }
+int Platform::Socket(int family, int type, int protocol) {
+  return socket(family, type | SOCK_CLOEXEC, protocol);
+}
 
 int Platform::Connect(int descriptor, const sockaddr* address, socklen_t length) {
   return connect(descriptor, address, length);
@@ -92,7 +95,9 @@ int Platform::Shutdown(int descriptor, int how) { return shutdown(descriptor, ho
 
 int Platform::Close(int descriptor) { return close(descriptor); }
 
-ssize_t Platform::Read(int descriptor, void* buffer, std::size_t size) { return read(descriptor, buffer, size); }
+ssize_t Platform::Read(int descriptor, void* buffer, std::size_t size) {
+  return read(descriptor, buffer, size);
+}
 
 ssize_t Platform::WriteSocket(int descriptor, const void* data, std::size_t size) {
   return send(descriptor, data, size, MSG_NOSIGNAL);
@@ -104,6 +109,23 @@ int Platform::WaitReadable(int descriptor, int milliseconds) {
 }
 
 int Platform::Open(const char* path, int flags, mode_t mode) { return open(path, flags | O_CLOEXEC, mode); }
+
+ssize_t Platform::Write(int descriptor, const void* data, std::size_t size) {
+  return write(descriptor, data, size);
+}
+
+int Platform::Access(const char* path, int mode) { return access(path, mode); }
+
+int Platform::MakeDirectory(const char* path, mode_t mode) { return mkdir(path, mode); }
+
+int Platform::Unlink(const char* path) { return unlink(path); }
+
+int Platform::LockFile(int descriptor) {
+  struct flock whole {};
+  whole.l_type = F_WRLCK;
+  whole.l_whence = SEEK_SET;
+  return fcntl(descriptor, F_SETLK, &whole);
+}
 
 void Platform::Sync() { sync(); }
 

@@ -4,8 +4,8 @@
 #pragma once
 
 #include <pthread.h>
-#include <sys/socket.h>
 #include <sys/shm.h>
+#include <sys/socket.h>
 #include <sys/types.h>
 
 #include <cstddef>
@@ -17,13 +17,15 @@ namespace zelto {
 
 // What a child process is started with; everything is prepared before the child exists.
 struct SpawnRequest {
-  std::string executable;                 // path as the operating system knows it
-  std::vector<std::string> arguments;     // argv, the first is the program's name
-  std::vector<std::string> environment;   // whole "NAME=value" list; empty keeps the parent's
-  std::string directory;                  // changed to before the execution; empty stays
-  bool closeDescriptors = false;          // descriptors 3 to 1023 become close-on-exec in the child
-  std::string directoryFailure;           // printed by the child when the directory can't be entered
-  std::string executionFailure;           // printed by the child when the execution fails
+  std::string executable;                // path as the operating system knows it
+  std::vector<std::string> arguments;    // argv, the first is the program's name
+  std::vector<std::string> environment;  // whole "NAME=value" list; empty keeps the parent's
+  std::string directory;                 // changed to before the execution; empty stays
+  bool closeDescriptors = false;         // descriptors 3 to 1023 become close-on-exec in the child
+  std::string directoryFailure;          // printed by the child when the directory can't be entered; a
+                                         // "%s" in it stands for the system's error text
+  std::string executionFailure;          // printed by the child when the execution fails
+  int failureStatus = 0;                 // exit status of a child whose execution fails
 };
 
 // Threads: all operations may be called from any thread.
@@ -43,8 +45,17 @@ class Platform {
 
   // pthread_create with default attributes; answers its error number, 0 on success. The caller detaches.
   virtual int CreateThread(pthread_t* handle, void* (*body)(void*), void* argument);
+  // Gives the calling thread the highest nice value and the highest real-time priority it can get; what the
+  // system refuses is left as it is. Answers the nice value then in force.
+  virtual int RaiseThreadPriority();
 
-  // Starts a process; answers its id, or -1 with errno. A failing execution ends the child with status 0.
+  // Timed waits on this platform's clock, in nanoseconds; 0 or less does not wait. Both answer 0 or an error
+  // number (ETIMEDOUT), as the pthread calls do. For zelto::Mutex and zelto::Condition.
+  virtual int WaitCondition(pthread_cond_t* condition, pthread_mutex_t* mutex, std::int64_t nanoseconds);
+  virtual int LockMutex(pthread_mutex_t* mutex, std::int64_t nanoseconds);
+
+  // Starts a process; answers its id, or -1 with errno. Costs the same however large the caller is. The
+  // caller's thread waits until the child executes the program or ends with `failureStatus`.
   virtual pid_t Spawn(const SpawnRequest& request);
   virtual pid_t WaitPid(pid_t pid, int* status, int options);
   virtual int Kill(pid_t pid, int signal);
@@ -60,7 +71,16 @@ class Platform {
   // Waits for readability (or end of stream); milliseconds as poll: -1 for ever, 0 at once.
   // Answers 1 ready, 0 timed out, -1 with errno. Any descriptor number is fine.
   virtual int WaitReadable(int descriptor, int milliseconds);
+  virtual ssize_t Write(int descriptor, const void* data, std::size_t size);
+
+  // Files, as the calls of the same name.
   virtual int Open(const char* path, int flags, mode_t mode);
+  virtual int Access(const char* path, int mode);
+  virtual int MakeDirectory(const char* path, mode_t mode);
+  virtual int Unlink(const char* path);
+  // Takes the write lock over the whole file without waiting; -1 with errno when another process has it.
+  // It ends with the descriptor.
+  virtual int LockFile(int descriptor);
   // Writes what the system still holds to the disks.
   virtual void Sync();
 

@@ -16,4 +16,12 @@ std::int64_t FastClock::WallClock() { return m_wallStart + (Now() - m_start) / 1
 
 void FastClock::Sleep(std::int64_t nanoseconds) { Platform::Sleep(nanoseconds / m_factor); }
 
+int FastClock::WaitCondition(pthread_cond_t* condition, pthread_mutex_t* mutex, std::int64_t nanoseconds) {
+  return Platform::WaitCondition(condition, mutex, nanoseconds / m_factor);
+}
+
+int FastClock::LockMutex(pthread_mutex_t* mutex, std::int64_t nanoseconds) {
+  return Platform::LockMutex(mutex, nanoseconds / m_factor);
+}
+
 }  // namespace test

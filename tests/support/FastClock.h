@@ -15,6 +15,8 @@ class FastClock : public zelto::Platform {
   std::int64_t Now() override;
   std::int64_t WallClock() override;
   void Sleep(std::int64_t nanoseconds) override;
+  int WaitCondition(pthread_cond_t* condition, pthread_mutex_t* mutex, std::int64_t nanoseconds) override;
+  int LockMutex(pthread_mutex_t* mutex, std::int64_t nanoseconds) override;
 
  private:
   const std::int64_t m_factor;
