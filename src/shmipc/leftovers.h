@@ -1,0 +1,18 @@
+/* What a killed process leaves behind. */
+#ifndef ZELTO_SHMIPC_LEFTOVERS_H
+#define ZELTO_SHMIPC_LEFTOVERS_H
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Removes those segments of the four channels that nobody is attached to, then their key file, so that
+ * the channels can be created afresh. Segments in use stay. Does nothing without a key file, or while
+ * another process opens a channel. Threads: any. */
+void SHMIPC_remove_leftovers(void);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

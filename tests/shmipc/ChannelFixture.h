@@ -1,0 +1,51 @@
+// A channel of its own for every test.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "shmipc/segment.h"
+#include "shmipc/shmipc.h"
+#include "tests/support/SurvivalCheck.h"
+#include "tests/support/Watchdog.h"
+
+namespace test {
+
+struct CloseChannel {
+  void operator()(SHMIPC_channel_t* channel) const { SHMIPC_close_channel(channel); }
+};
+using Channel = std::unique_ptr<SHMIPC_channel_t, CloseChannel>;
+
+// A device root with a key file in it. At its end the segments of its keys are gone.
+class ChannelFixture : public testing::Test {
+ protected:
+  static constexpr char kPath[] = "/tmp/shmipc2_conn";
+  static constexpr int kProject = 1;
+
+  ChannelFixture();
+  ~ChannelFixture() override;
+
+  Channel Open(unsigned size, bool create, int project = kProject) const {
+    return Channel(SHMIPC_open_channel(kPath, size, project, create ? 1 : 0));
+  }
+
+  // Both ends of a channel, initialised, with so much room for the ring.
+  void Connect(unsigned size);
+
+  static int Send(SHMIPC_channel_t* channel, std::uint32_t type, const std::string& payload, int timeout = 0);
+  // "type:payload", or the error's number.
+  static std::string Receive(SHMIPC_channel_t* channel, int timeout = 0);
+
+  static shmipc::SegmentHeader& HeaderOf(const Channel& channel) { return shmipc::HeaderOf(channel.get()); }
+
+  std::string m_root;
+  Watchdog m_watchdog{240};
+  std::unique_ptr<SurvivalCheck> m_survival;
+  Channel m_sender;
+  Channel m_receiver;
+};
+
+}  // namespace test
