@@ -1,0 +1,291 @@
+// The conversation: start and stop, numbered requests, the queue, and what a runtime may do wrong in it.
+#include "apiwrapper/Zelto.h"
+
+#include <gmock/gmock.h>
+
+#include <string>
+#include <vector>
+
+#include "apiwrapper/Account.h"
+#include "apiwrapper/ZESocketTransport.h"
+#include "tests/apiwrapper/MemoryTransport.h"
+#include "tests/support/ScriptedRuntime.h"
+
+namespace {
+
+using testing::Each;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+using testing::StartsWith;
+
+// Counts what reaches it.
+class CountingRoot : public Zelto {
+ public:
+  using Zelto::Zelto;
+  void onEventReady(unsigned int count) override { ready.push_back(count); }
+  void OnLibStatusChange(LIBSTATUS status) override { statuses.push_back(status); }
+
+  std::vector<unsigned int> ready;
+  std::vector<int> statuses;
+};
+
+class ARoot : public testing::Test {
+ protected:
+  void start() {
+    transport.incoming = {"#0 b 0=\"1211\""};
+    ASSERT_EQ(root.Start(true, "10070/1.0.0.0/"), Zelto::START_SUCCESS);
+    transport.written.clear();
+  }
+  // What the protocol logged while it did something.
+  template <class Action>
+  static std::string logged(Action action) {
+    testing::internal::CaptureStderr();
+    action();
+    return testing::internal::GetCapturedStderr();
+  }
+
+  MemoryTransport transport;
+  CountingRoot root{&transport};
+};
+
+TEST_F(ARoot, ConnectsItsTransport) {
+  EXPECT_EQ(transport.logFunction, &Zelto::log);
+  EXPECT_TRUE(root.init());
+  root.cleanup();
+  EXPECT_FALSE(transport.connected);
+  transport.connects = false;
+  EXPECT_EQ(logged([&] { EXPECT_FALSE(root.init()); }), "ZELTO ERROR - Have you properly started ZelHost?\n");
+}
+
+TEST_F(ARoot, StartsWithItsVersionsAndReadsTheResult) {
+  transport.incoming = {"#0 b 0=\"1211\"", "#1 b 0=\"2001\"", "#2 b 0=\"1650\"", "#3 b 0=\"1154\"",
+                        "#4 b 0=\"?\""};
+  EXPECT_EQ(root.Start(true, "10071/1.0.0.0/"), 1);
+  EXPECT_THAT(transport.written,
+              ElementsAre("#0  a 1465 1986 1553=\"10071/1.0.0.0/\" 1830=\"1.10\" 1482=\"1\""));
+  EXPECT_EQ(root.Start(false, "x"), 2);
+  EXPECT_EQ(transport.written.back(), "#1  a 1465 1986 1553=\"x\" 1830=\"1.10\" 1482=\"0\"");
+  EXPECT_EQ(root.Start(false, "x"), 3);
+  EXPECT_EQ(root.Start(false, "x"), 4);
+  EXPECT_EQ(root.Start(false, "x"), -1);
+  EXPECT_EQ(root.Start(false, "x"), -1) << "the stream has ended";
+}
+
+TEST_F(ARoot, NumbersItsRequestsInHexadecimal) {
+  for (int i = 0; i < 17; ++i)
+    transport.incoming.push_back("#" + std::string(1, "0123456789ABCDEF"[i % 16]) + " b ");
+  transport.incoming.back() = "#10 b ";
+  for (int i = 0; i < 17; ++i) EXPECT_EQ(root.sendAndBlock("a 1465 1594"), "b ");
+  EXPECT_EQ(transport.written[0], "#0  a 1465 1594");
+  EXPECT_EQ(transport.written[10], "#A  a 1465 1594");
+  EXPECT_EQ(transport.written[16], "#10  a 1465 1594");
+  EXPECT_EQ(root.eventsWaitingCount(), 0U);
+}
+
+TEST_F(ARoot, QueuesWhatArrivesWhileItWaits) {
+  start();
+  transport.incoming = {"e 1465 1519 1156=\"1132\"", "", "#7 b 0=\"other\"", "#1 b 0=\"mine\"",
+                        "#1 b 0=\"twice\""};
+  EXPECT_EQ(root.sendBlockParse("1465 1594").find("0"), "mine");
+  EXPECT_THAT(root.ready, ElementsAre(1, 2)) << "an empty message is no event";
+  EXPECT_THAT(root.statuses, IsEmpty()) << "nothing is dispatched while waiting";
+  EXPECT_EQ(transport.incoming.size(), 1U);
+
+  // A reply of another id and a second reply are dispatched as events that name no class and no object.
+  EXPECT_EQ(logged([&] { EXPECT_TRUE(root.pollEvents(0)); }),
+            "ZELTO ERROR - Error parsing event: #7 b 0=\"other\"\n"
+            "ZELTO ERROR - Error parsing event: #1 b 0=\"twice\"\n");
+  EXPECT_THAT(root.statuses, ElementsAre(Zelto::RUNNING));
+  EXPECT_EQ(root.eventsWaitingCount(), 0U);
+}
+
+TEST_F(ARoot, ReadsAnErrorAsAnEmptyResult) {
+  start();
+  transport.incoming = {"#1 d 7 refused", "#2 b d=\"no error\""};
+  EXPECT_EQ(logged([&] { EXPECT_EQ(root.sendAndBlock("a 1465 1594"), "b "); }),
+            "ZELTO ERROR - From ZelHost: #1 d 7 refused\n");
+  EXPECT_EQ(root.sendAndBlock("a 1465 1594"), "b d=\"no error\"");
+  EXPECT_TRUE(root.sendAndBlock("a 1465 1594").isNull()) << "the stream has ended";
+  EXPECT_FALSE(root.pollEvents(0));
+}
+
+TEST_F(ARoot, DoesNotWaitForAReplyToWhatTheTransportRefuses) {
+  const std::string tooLong(0x01000000, 'x');
+  EXPECT_EQ(root.sendAndBlock(tooLong.c_str()), "b ");
+}
+
+TEST_F(ARoot, DispatchesTenEventsAPass) {
+  start();
+  for (int i = 0; i < 11; ++i) transport.incoming.push_back("e 1465 1519 1156=\"1132\"");
+  transport.incoming.push_front("b late");
+  transport.incoming.push_front("d 3 broken");
+  root.pollEvents(0);
+  EXPECT_THAT(root.statuses, SizeIs(10)) << "late replies and errors don't count";
+  EXPECT_EQ(root.eventsWaitingCount(), 1U);
+  root.runQueue();
+  EXPECT_THAT(root.statuses, SizeIs(11));
+  EXPECT_THAT(root.statuses, Each(static_cast<int>(Zelto::RUNNING)));
+}
+
+TEST_F(ARoot, CountsUnknownEventsButNotMalformedOnes) {
+  start();
+  for (int i = 0; i < 10; ++i) {
+    transport.incoming.push_back("e 1465 777");
+    transport.incoming.push_back("e 1133 1122");  // no object id
+    transport.incoming.push_back("e 2097 2073");  // no name
+    transport.incoming.push_back("e");
+  }
+  transport.incoming.push_back("e 1465 1519 1156=\"1132\"");
+  EXPECT_THAT(logged([&] { root.pollEvents(0); }),
+              StartsWith("ZELTO ERROR - Unknown event: 777\n"
+                         "ZELTO ERROR - Error parsing event: e 1133 1122\n"
+                         "ZELTO ERROR - Error parsing event: e 2097 2073\n"
+                         "ZELTO ERROR - Error parsing event: e\n"
+                         "ZELTO ERROR - Unknown event: 777\n"));
+  EXPECT_THAT(root.statuses, IsEmpty());
+  EXPECT_EQ(root.eventsWaitingCount(), 4U) << "the tenth unknown event ended the pass";
+}
+
+TEST_F(ARoot, EndsThePassAtAnObjectIdOfZero) {
+  start();
+  transport.incoming = {"e 1133 1122 1137=\"0\"", "e 1465 1519 1156=\"1132\"", "e 1133 1122 1137=\"call\"",
+                        "e 1465 1519 1156=\"1132\""};
+  root.pollEvents(0);
+  EXPECT_THAT(root.statuses, IsEmpty());
+  root.runQueue();
+  EXPECT_THAT(root.statuses, SizeIs(1));
+  root.runQueue();
+  EXPECT_THAT(root.statuses, SizeIs(2));
+}
+
+TEST_F(ARoot, HearsOnlyOfItselfBeforeItsStart) {
+  transport.incoming = {"e 1133 1122 1137=\"8\"", "e 2097 2073", "e 1465 1519 1156=\"1132\""};
+  EXPECT_EQ(logged([&] { root.pollEvents(0); }), "");
+  EXPECT_EQ(root.getObject(8), nullptr);
+  EXPECT_THAT(root.statuses, SizeIs(1));
+}
+
+TEST_F(ARoot, ForgetsTheEarlierConversationAtItsStart) {
+  transport.incoming = {"e 1465 1519 1156=\"1132\"", "#0 b "};
+  root.sendAndBlock("a 1465 1594");
+  root.getAccount(5);
+  transport.incoming = {"#1 b 0=\"1211\""};
+  root.Start(true, "x");
+  EXPECT_EQ(root.eventsWaitingCount(), 0U);
+  EXPECT_EQ(root.getObject(5), nullptr);
+}
+
+TEST_F(ARoot, StopsWithOrWithoutWaiting) {
+  start();
+  transport.incoming = {"e 1465 1519 1156=\"1132\"", "#1 b "};
+  root.Stop(true);
+  EXPECT_THAT(transport.written, ElementsAre("#1  a 1465 1386 1482=\"1\""));
+  EXPECT_THAT(root.statuses, SizeIs(1)) << "what was queued is still dispatched";
+  root.Stop(false);
+  EXPECT_EQ(transport.written.back(), "a 1465 1386 1482=\"0\"");
+}
+
+TEST_F(ARoot, NamesTheProxiesThatAreLeftAtItsStop) {
+  start();
+  root.getAccount(770);  // shares a bucket with 1
+  root.getAccount(1);
+  root.getAccount(5);
+  EXPECT_EQ(logged([&] { root.dumpObjectList(); }),
+            "ZELTO - Objects currently created in wrapper:\n2046 object, OID: 770\n"
+            "2046 object, OID: 1\n2046 object, OID: 5\n");
+  EXPECT_EQ(logged([&] { root.Stop(false); }),
+            "ZELTO - Exiting, following objects haven't been deleted, check if you have no memory leaks:\n"
+            "2046 object, OID: 770\n2046 object, OID: 1\n2046 object, OID: 5\n");
+  EXPECT_EQ(root.getObject(5), nullptr);
+}
+
+TEST_F(ARoot, ReadsOneMessageOrMoreWhenToldToWait) {
+  start();
+  transport.incoming = {"e 1465 1519 1156=\"1132\"", "e 1465 1519 1156=\"1132\""};
+  EXPECT_TRUE(root.pollEvents(-1));
+  EXPECT_THAT(root.statuses, SizeIs(2));
+  EXPECT_TRUE(root.pollEvents(-1)) << "the end of the stream shows at the next poll";
+  EXPECT_FALSE(root.pollEvents(-1));
+}
+
+#ifdef ZELTO_DEBUG_LOCKS
+TEST(ARootDeathTest, DiesWhenTheServiceHostMutexIsNotHeld) {
+  EXPECT_DEATH(
+      {
+        MemoryTransport transport;
+        Zelto root(&transport);
+        Zelto::s_lockIsHeld = [] { return false; };
+        root.pollEvents(0);
+      },
+      "Zelto::pollEvents called without the service-host mutex");
+}
+#endif
+
+// The same over a socket, with a runtime that misbehaves.
+class AConversation : public testing::Test {
+ protected:
+  AConversation() {
+    runtime.reply("1986", ScriptedRuntime::pair("0", "1211"));
+    EXPECT_TRUE(root.init());
+    EXPECT_EQ(root.Start(true, "10070/1.0.0.0/"), Zelto::START_SUCCESS);
+  }
+  ~AConversation() override { root.cleanup(); }
+
+  ScriptedRuntime runtime;
+  ZESocketTransport transport{runtime.path().c_str()};
+  CountingRoot root{&transport};
+};
+
+TEST_F(AConversation, GoesOnWhileEventsArriveBetweenRequestAndReply) {
+  runtime.on("1879", [](ScriptedRuntime& self, const ScriptedRequest& request) {
+    self.sendEvent("1465", "1519", ScriptedRuntime::pair("1156", "1132"));
+    self.answer(request, ScriptedRuntime::pair("1704", "a, \"b\""));
+    self.answer(request, "");  // once too often
+  });
+  for (int i = 0; i < 50; ++i) ASSERT_EQ(root.getAccount(5)->GetProp(1), "a, \"b\"");
+  testing::internal::CaptureStderr();
+  while (root.statuses.size() < 50U && root.pollEvents(1000)) {
+  }
+  testing::internal::GetCapturedStderr();
+  EXPECT_THAT(root.statuses, SizeIs(50));
+}
+
+TEST_F(AConversation, EndsWithTheStreamInTheMiddleOfAReply) {
+  runtime.on("1879", [](ScriptedRuntime& self, const ScriptedRequest& request) {
+    const std::string bytes = ScriptedRuntime::frame(request.id + "b 1704=\"x\"");
+    self.sendBytes(bytes.substr(0, bytes.size() - 1));
+    self.closeConnection();
+  });
+  EXPECT_TRUE(root.getAccount(5)->GetProp(1).isNull());
+  EXPECT_FALSE(root.pollEvents(0));
+  EXPECT_TRUE(root.getAccount(5)->GetProp(1).isNull()) << "later requests return at once";
+}
+
+TEST_F(AConversation, IsReleasedFromAMuteRuntimeByItsDeath) {
+  runtime.stayMute("1879");
+  std::thread killer([this] {
+    EXPECT_TRUE(runtime.waitForRequests("1879"));
+    runtime.die();
+  });
+  EXPECT_TRUE(root.getAccount(5)->GetProp(1).isNull());
+  killer.join();
+  EXPECT_FALSE(transport.isConnected());
+}
+
+TEST_F(AConversation, SurvivesEveryReplyThatIsNoReply) {
+  for (const char* bytes :
+       {"", " ", "\\", "\"", "#", "# b", "b", "d", "#1", "#1 ", "#1 d", "#01 b ", "a b c d e f", "1137=\"5\"",
+        "e 1133 1122 1137=\"99999999999999999999\"", "\xFF\xFE", "e\n\"\\ \""}) {
+    runtime.on("1594", [bytes](ScriptedRuntime& self, const ScriptedRequest& request) {
+      self.sendMessage(bytes);
+      self.answer(request, ScriptedRuntime::pair("0", "1"));
+    });
+    testing::internal::CaptureStderr();
+    EXPECT_TRUE(root.Ping()) << bytes;
+    root.pollEvents(0);
+    testing::internal::GetCapturedStderr();
+  }
+}
+
+}  // namespace
