@@ -29,9 +29,9 @@ class CEngineData {
 // Audio or video on its way between host and engine. Never owned by the receiver: the data is valid
 // during the call only.
 struct CAVData {
-  int type;            // 0 audio samples; other values are video and control records
-  int value;           // per record: time stamp of a video frame, else 0
-  unsigned int size;   // bytes at data
+  int type;           // 0 audio samples; other values are video and control records
+  int value;          // per record: time stamp of a video frame, else 0
+  unsigned int size;  // bytes at data
   unsigned char* data;
 };
 
@@ -49,52 +49,54 @@ class IMoIPEngine {
   // Runs one of the string commands. Null texts count as empty. The answer is the engine's; it stays
   // valid until four further commands have run. Unknown commands answer the empty text.
   virtual const char* Execute(const char* cmd, const char* p1, const char* p2, const char* p3,
-                              const char* p4) = 0;
+                              const char* p4) noexcept = 0;
   // Stores the event callback; null stops the delivery.
-  virtual void RegisterEventCallback(MoIPEventCallback callback, void* user) = 0;
+  virtual void RegisterEventCallback(MoIPEventCallback callback, void* user) noexcept = 0;
   // Takes a record of microphone audio (type 0) or camera video; null is ignored. The record is copied.
-  virtual void OnData(const CAVData* data) = 0;
+  virtual void OnData(const CAVData* data) noexcept = 0;
   // Stores the data callback and loads the service: register the other two functions first.
-  virtual void RegisterDataCallback(MoIPDataCallback callback, void* user) = 0;
+  virtual void RegisterDataCallback(MoIPDataCallback callback, void* user) noexcept = 0;
   // Stores the function through which the engine asks the television to act.
-  virtual void RegisterCommonCtrlFunc(MoIPCommonCtrlFunc function, void* user) = 0;
+  virtual void RegisterCommonCtrlFunc(MoIPCommonCtrlFunc function, void* user) noexcept = 0;
 
   virtual ~IMoIPEngine() = default;
 
   // Queries: true when the answer is complete; results are written only then, except that
   // GetContactInfo may already have filled id and displayName when a later step fails.
-  virtual bool IsInMyContact(const std::string& email, std::string& id);
-  virtual bool IsLoggedIn(std::string& id);
+  virtual bool IsInMyContact(const std::string& email, std::string& id) noexcept;
+  virtual bool IsLoggedIn(std::string& id) noexcept;
   virtual bool GetRecentCall(const int& index, int& kind, std::string& id, std::string& displayName,
-                             int& timestamp);
+                             int& timestamp) noexcept;
   virtual bool GetContactInfo(const int& index, std::string& id, std::string& displayName, int& status,
-                              std::string& avatarPath);
-  virtual bool GetContactImage(const std::string& id, std::string& path);
-  virtual bool GetContactStatus(const std::string& id, int& status);
-  virtual bool PlaceCall(const std::string& target, int type);
-  virtual bool PlayMail(int timestamp);
-  virtual bool GetMobilePhoneNumber(const std::string& id, std::string& number);
-  virtual bool GetHomePhoneNumber(const std::string& id, std::string& number);
-  virtual bool GetOfficePhoneNumber(const std::string& id, std::string& number);
+                              std::string& avatarPath) noexcept;
+  virtual bool GetContactImage(const std::string& id, std::string& path) noexcept;
+  virtual bool GetContactStatus(const std::string& id, int& status) noexcept;
+  virtual bool PlaceCall(const std::string& target, int type) noexcept;
+  virtual bool PlayMail(int timestamp) noexcept;
+  virtual bool GetMobilePhoneNumber(const std::string& id, std::string& number) noexcept;
+  virtual bool GetHomePhoneNumber(const std::string& id, std::string& number) noexcept;
+  virtual bool GetOfficePhoneNumber(const std::string& id, std::string& number) noexcept;
 };
 
-inline bool IMoIPEngine::IsInMyContact(const std::string&, std::string&) { return false; }
-inline bool IMoIPEngine::IsLoggedIn(std::string&) { return false; }
-inline bool IMoIPEngine::GetRecentCall(const int&, int&, std::string&, std::string&, int&) { return false; }
-inline bool IMoIPEngine::GetContactInfo(const int&, std::string&, std::string&, int&, std::string&) {
+inline bool IMoIPEngine::IsInMyContact(const std::string&, std::string&) noexcept { return false; }
+inline bool IMoIPEngine::IsLoggedIn(std::string&) noexcept { return false; }
+inline bool IMoIPEngine::GetRecentCall(const int&, int&, std::string&, std::string&, int&) noexcept {
   return false;
 }
-inline bool IMoIPEngine::GetContactImage(const std::string&, std::string&) { return false; }
-inline bool IMoIPEngine::GetContactStatus(const std::string&, int&) { return false; }
-inline bool IMoIPEngine::PlaceCall(const std::string&, int) { return false; }
-inline bool IMoIPEngine::PlayMail(int) { return false; }
-inline bool IMoIPEngine::GetMobilePhoneNumber(const std::string&, std::string&) { return false; }
-inline bool IMoIPEngine::GetHomePhoneNumber(const std::string&, std::string&) { return false; }
-inline bool IMoIPEngine::GetOfficePhoneNumber(const std::string&, std::string&) { return false; }
+inline bool IMoIPEngine::GetContactInfo(const int&, std::string&, std::string&, int&, std::string&) noexcept {
+  return false;
+}
+inline bool IMoIPEngine::GetContactImage(const std::string&, std::string&) noexcept { return false; }
+inline bool IMoIPEngine::GetContactStatus(const std::string&, int&) noexcept { return false; }
+inline bool IMoIPEngine::PlaceCall(const std::string&, int) noexcept { return false; }
+inline bool IMoIPEngine::PlayMail(int) noexcept { return false; }
+inline bool IMoIPEngine::GetMobilePhoneNumber(const std::string&, std::string&) noexcept { return false; }
+inline bool IMoIPEngine::GetHomePhoneNumber(const std::string&, std::string&) noexcept { return false; }
+inline bool IMoIPEngine::GetOfficePhoneNumber(const std::string&, std::string&) noexcept { return false; }
 
 extern "C" {
 // The engine; repeated calls answer the same object. Null when it cannot be built.
-ZELTO_EXPORT IMoIPEngine* engine_create();
+ZELTO_EXPORT IMoIPEngine* engine_create() noexcept;
 // Ends the engine and everything it started, within 8 seconds. Null is ignored.
-ZELTO_EXPORT void engine_destroy(IMoIPEngine* engine);
+ZELTO_EXPORT void engine_destroy(IMoIPEngine* engine) noexcept;
 }

@@ -1,0 +1,98 @@
+// What an engine costs that is loaded and has nothing to do, beside two bare threads that sleep 10 and 30 ms
+// in turn. Reported: processor time of this process (the runtime is another one) for each second, and how
+// often a second it was woken.
+#include <benchmark/benchmark.h>
+#include <sys/resource.h>
+
+#include <atomic>
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "Common/ZeltoManager.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+
+constexpr auto kWindow = 5s;
+constexpr auto kReadyLimit = 20s;
+
+struct Usage {
+  double processor;  // seconds
+  long wakeUps;
+
+  static Usage Now() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    const auto seconds = [](const timeval& time) {
+      return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
+    };
+    return {seconds(usage.ru_utime) + seconds(usage.ru_stime), usage.ru_nvcsw};
+  }
+};
+
+void MeasureWindow(benchmark::State& state) {
+  const Usage before = Usage::Now();
+  std::this_thread::sleep_for(kWindow);
+  const Usage after = Usage::Now();
+  const double seconds = std::chrono::duration<double>(kWindow).count();
+  state.SetIterationTime((after.processor - before.processor) / seconds);
+  state.counters["wake_ups_per_s"] = static_cast<double>(after.wakeUps - before.wakeUps) / seconds;
+}
+
+void Bare(benchmark::State& state) {
+  std::atomic<bool> stop{false};
+  std::vector<std::thread> threads;
+  for (const auto pause : {10ms, 30ms}) {
+    threads.emplace_back([&stop, pause] {
+      while (!stop) std::this_thread::sleep_for(pause);
+    });
+  }
+  for (auto _ : state) MeasureWindow(state);
+  stop = true;
+  for (std::thread& thread : threads) thread.join();
+}
+
+// A fresh device root with the runtime that lies beside this program.
+class DeviceRoot {
+ public:
+  DeviceRoot() {
+    std::string name = (fs::temp_directory_path() / "zelto-idle-XXXXXX").string();
+    m_root = mkdtemp(name.data());
+    const fs::path home = m_root / "mtd_rwcommon/moip/engines/Zelto";
+    for (const fs::path& folder : {home, m_root / "dtv", m_root / "tmp"}) fs::create_directories(folder);
+    fs::create_symlink(fs::read_symlink("/proc/self/exe").parent_path() / "zelhost", home / "zelhost");
+    setenv("ZELTO_DEVICE_ROOT", m_root.c_str(), 1);
+  }
+  ~DeviceRoot() { fs::remove_all(m_root); }
+  DeviceRoot(const DeviceRoot&) = delete;
+  DeviceRoot& operator=(const DeviceRoot&) = delete;
+
+ private:
+  fs::path m_root;
+};
+
+void Engine(benchmark::State& state) {
+  const DeviceRoot root;
+  CZeltoManager* engine = CZeltoManager::Create();
+  engine->RegisterDataCallback([](const CAVData*, void*, void*) { return true; }, nullptr);
+  const auto limit = std::chrono::steady_clock::now() + kReadyLimit;
+  while (!CZeltoManager::IsZeltoReady() && std::chrono::steady_clock::now() < limit) {
+    std::this_thread::sleep_for(50ms);
+  }
+  if (!CZeltoManager::IsZeltoReady()) state.SkipWithError("the runtime did not come up");
+  for (auto _ : state) MeasureWindow(state);
+  CZeltoManager::Destroy(engine);
+}
+
+BENCHMARK(Engine)->Name("Idle/zelto")->UseManualTime()->Iterations(1)->Unit(benchmark::kMicrosecond);
+BENCHMARK(Bare)->Name("Idle/bare")->UseManualTime()->Iterations(1)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+
+BENCHMARK_MAIN();

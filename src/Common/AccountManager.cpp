@@ -1,0 +1,5 @@
+#include "Common/AccountManager.h"
+
+#include "Common/ZeltoImp.h"
+
+CAccountManagerImp* CAccountManager::CreateImp() { return CZeltoImp::CreateAccountManagerImp(); }

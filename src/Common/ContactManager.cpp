@@ -1,0 +1,5 @@
+#include "Common/ContactManager.h"
+
+#include "Common/ZeltoImp.h"
+
+CContactManagerImp* CContactManager::CreateImp() { return CZeltoImp::CreateContactManagerImp(); }

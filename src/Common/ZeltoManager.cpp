@@ -1,0 +1,233 @@
+#include "Common/ZeltoManager.h"
+
+#include <charconv>
+#include <cstdlib>
+#include <cstring>
+#include <stdexcept>
+
+#include "Common/AccountManager.h"
+#include "Common/CallManager.h"
+#include "Common/ChatManager.h"
+#include "Common/ContactManager.h"
+#include "Common/EventHandlers.h"
+#include "Common/EventQueue.h"
+#include "Common/Guard.h"
+#include "Common/HistoryManager.h"
+#include "Common/HostControl.h"
+#include "Common/Log.h"
+#include "Common/ZeltoImp.h"
+#include "zelhost/ZelhostLifeCycle.h"
+
+using zelto::EventHandlers;
+using zelto::EventQueue;
+using zelto::Guard;
+using zelto::HostControl;
+
+std::atomic<CZeltoManager*> CZeltoManager::s_instance{nullptr};
+std::atomic<bool> CZeltoManager::s_ended{false};
+std::atomic<CZeltoManagerImp*> CZeltoManager::s_imp{nullptr};
+std::atomic<bool> CZeltoManager::s_serviceEnded{false};
+std::atomic<bool> CZeltoManager::s_widgetStarted{false};
+
+namespace {
+
+// One engine is made or ended at a time. Its holder waits for the event thread, which has been asked to
+// stop, so the lock stands outside the order.
+zelto::Mutex& LifeLock() {
+  static zelto::Mutex* const lock = new zelto::Mutex(zelto::LockRank::Unranked, "engine life");
+  return *lock;
+}
+
+// The last widget parameter; it outlives the engine like everything that late threads may ask for.
+struct WidgetParameter {
+  zelto::Mutex lock{zelto::LockRank::Leaf, "widget parameter"};
+  std::string text ZELTO_GUARDED_BY(lock);
+
+  static WidgetParameter& Get() {
+    static WidgetParameter* const parameter = new WidgetParameter;
+    return *parameter;
+  }
+};
+
+// The host may write into the texts of a record, so it gets copies.
+struct TextCopy {
+  explicit TextCopy(const char* text) : copy(text != nullptr ? ::strdup(text) : nullptr) {}
+  ~TextCopy() { std::free(copy); }
+  TextCopy(const TextCopy&) = delete;
+  TextCopy& operator=(const TextCopy&) = delete;
+  char* copy;
+};
+
+void Deliver(int type, const char* p1, const char* p2) {
+  const TextCopy first(p1);
+  const TextCopy second(p2);
+  HostControl::Get().Deliver({type, first.copy, second.copy});
+}
+
+}  // namespace
+
+// --- Life
+
+CZeltoManager* CZeltoManager::GetInstance() noexcept {
+  CZeltoManager* manager = s_instance.load(std::memory_order_acquire);
+  return manager != nullptr || s_ended ? manager : Create();
+}
+
+CZeltoManager* CZeltoManager::Create() noexcept {
+  // From inside a host function only the present engine: an ending one waits for that function.
+  if (HostControl::Get().IsInside()) return s_instance;
+  return Guard("engine_create", []() -> CZeltoManager* {
+    zelto::MutexLock lock(LifeLock());
+    CZeltoManager* manager = s_instance.load(std::memory_order_acquire);
+    if (manager != nullptr) return manager;
+    manager = new CZeltoManager;
+    s_serviceEnded = false;
+    s_instance.store(manager, std::memory_order_release);
+    s_ended = false;
+    EventQueue::Get().Open();
+    return manager;
+  });
+}
+
+void CZeltoManager::Destroy(IMoIPEngine* engine) noexcept {
+  if (engine == nullptr || HostControl::Get().IsReentry("engine_destroy")) return;
+  zelto::MutexLock lock(LifeLock());
+  if (engine != s_instance.load(std::memory_order_acquire)) {
+    ZELTO_FATAL("engine_destroy: %p is no engine\n", static_cast<void*>(engine));
+    return;
+  }
+  delete engine;
+}
+
+CZeltoManager::CZeltoManager() {
+  SetWidgetStarted(false);
+  SetRunWidgetParam(std::string());
+  if (!m_eventThread.Start()) {
+    ZELTO_FATAL("fail to create event thread");
+    throw std::runtime_error("no event thread");
+  }
+}
+
+CZeltoManager::~CZeltoManager() noexcept {
+  // A runtime that keeps the event thread or a command waiting must not keep the engine.
+  CZelhostLifeCycle::BeginShutdown();
+  ZELTO_DEBUG("CZeltoManager::Destructor 1");
+  m_eventThread.Stop();
+  ZELTO_DEBUG("CZeltoManager::Destructor 1.1");
+  Guard("ending the call", [] { EndCall(); });
+  ZELTO_DEBUG("CZeltoManager::Destructor 2");
+  HostControl::Get().Clear();
+  ZELTO_DEBUG("CZeltoManager::Destructor 3");
+  Guard("ending the service", [] { DeleteZeltoManagerImp(); });
+  ZELTO_DEBUG("CZeltoManager::Destructor 4");
+  EventQueue::Get().Close();
+  EventHandlers::Get().Clear();
+  ZELTO_DEBUG("CZeltoManager::Destructor 5");
+  s_ended = true;
+  ZELTO_DEBUG("CZeltoManager::Destructor 6");
+  s_instance.store(nullptr, std::memory_order_release);
+  ZELTO_DEBUG("CZeltoManager::Destructor Done");
+}
+
+void CZeltoManager::EndCall() {
+  zelhost::ServiceHostLock lock("engine_destroy");
+  if (!CCallManager::HasManager()) return;
+  CCallManager* call = CCallManager::GetInstance();
+  if (call->IsInCall()) call->CallEnd(true);
+}
+
+// --- The service host
+
+CZeltoManagerImp* CZeltoManager::GetZeltoManagerImp() {
+  CZeltoManagerImp* imp = s_imp.load(std::memory_order_acquire);
+  return imp != nullptr ? imp : CreateZeltoManagerImp();
+}
+
+CZeltoManagerImp* CZeltoManager::CreateZeltoManagerImp() {
+  if (s_instance.load(std::memory_order_acquire) == nullptr) return nullptr;
+  zelhost::ServiceHostLock lock("GetZeltoManagerImp");
+  CZeltoManagerImp* imp = s_imp.load(std::memory_order_relaxed);
+  if (imp != nullptr || s_serviceEnded) return imp;
+  imp = CZeltoImp::CreateZeltoManagerImp();
+  s_imp.store(imp, std::memory_order_release);
+  return imp;
+}
+
+void CZeltoManager::DeleteZeltoManagerImp() {
+  zelhost::ServiceHostLock lock("engine_destroy");
+  s_serviceEnded = true;
+  // It stays reachable meanwhile: what it takes down still asks it.
+  delete s_imp.load(std::memory_order_relaxed);
+  s_imp.store(nullptr, std::memory_order_release);
+  // Managers that came up without a loaded service, or after it had gone.
+  CContactManager::DeleteInstance();
+  CAccountManager::DeleteInstance();
+  CChatManager::DeleteInstance();
+  CHistoryManager::DeleteInstance();
+  CCallManager::DeleteInstance();
+}
+
+// --- Events and the host's functions
+
+void CZeltoManager::SendEvent(int type, int param) { EventQueue::Get().Send(type, param); }
+
+void CZeltoManager::LazySendEvent(int delay, int type, int param) {
+  EventQueue::Get().Send(type, param, delay);
+}
+
+void CZeltoManager::DeleteLazyEvent(int type) { EventQueue::Get().DeleteLazy(type); }
+
+bool CZeltoManager::SetEventHandler(EVENT_TYPE type, CZeltoEventHandler* handler) {
+  return EventHandlers::Get().Set(type, handler);
+}
+
+void CZeltoManager::NotifyEngineEvent(int type, const char* p1, const char* p2) {
+  ZELTO_DEBUG("CZeltoManager::%s: event type = %d\n", "NotifyEngineEvent", type);
+  Deliver(type, p1, p2);
+}
+
+void CZeltoManager::NotifyEngineEvent(const CZeltoEvent* event) {
+  ZELTO_DEBUG("CZeltoManager::%s: event type = %d\n", "NotifyEngineEvent", event->type);
+  char digits[16];
+  *std::to_chars(digits, digits + sizeof digits - 1, event->param).ptr = '\0';
+  HostControl::Get().Deliver({event->type, digits, nullptr});
+}
+
+void CZeltoManager::NotifyHardwiredEvent(unsigned type, const char* p1, const char* p2) {
+  ZELTO_DEBUG("CZeltoManager::%s: public event type = %u\n", "NotifyHardwiredEvent", type);
+  Deliver(static_cast<int>(type), p1, p2);
+}
+
+std::string CZeltoManager::CallCommonControl(const char* cmd, const char* p1, const char* p2, const char* p3,
+                                             const char* p4) {
+  return HostControl::Get().Call(cmd, p1, p2, p3, p4);
+}
+
+void CZeltoManager::SendAVData(const CAVData* data, unsigned int* extra) {
+  HostControl::Get().SendData(data, extra);
+}
+
+void CZeltoManager::ShowNotification(int, int) {}
+void CZeltoManager::HideNotification(int) {}
+void CZeltoManager::HideAllNotification() {}
+
+// --- The widget
+
+std::string CZeltoManager::RunWidget(const std::string& parameter) {
+  ZELTO_DEBUG("RunWidget with param %s\n", parameter.c_str());
+  SendEvent(WIDGET_LAUNCH, GetZeltoWidgetState() ? 1 : 0);
+  SetRunWidgetParam(parameter);
+  return CallCommonControl("StartWidgetWithParam", parameter.c_str());
+}
+
+void CZeltoManager::SetRunWidgetParam(const std::string& parameter) {
+  WidgetParameter& last = WidgetParameter::Get();
+  zelto::MutexLock lock(last.lock);
+  last.text = parameter;
+}
+
+std::string CZeltoManager::GetRunWidgetParam() {
+  WidgetParameter& last = WidgetParameter::Get();
+  zelto::MutexLock lock(last.lock);
+  return last.text;
+}
