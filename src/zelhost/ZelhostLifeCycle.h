@@ -1,10 +1,13 @@
 #pragma once
 
+#include <pthread.h>
+
 #include <atomic>
 #include <memory>
 #include <string>
 
 #include "Common/ZeltoThread.h"
+#include "zelhost/ServiceHostMutex.h"
 
 class CZelto;
 class ZESocketTransport;
@@ -17,25 +20,28 @@ class RuntimeProcess;
 // protocol's events on a thread of its own and takes everything down again.
 // Threads: every operation takes the service-host mutex itself; the poll thread ("MoIPPollEventThread")
 // takes it for each pass and gives up waiting for it as soon as it is asked to stop, so that whoever
-// holds the mutex may stop it.
+// holds the mutex may stop it. State and readiness are answered without it.
 class CZelhostLifeCycle : private zelto::CZeltoThread {
  public:
   // The numbers are what "GetZeltoState" answers.
   enum State {
-    ZELTO_LOADING = 0,   // launch in progress
-    ZELTO_LOADED = 1,    // connected and started; the managers are up
+    ZELTO_LOADING = 0,  // launch in progress
+    ZELTO_LOADED = 1,   // connected and started; the managers are up
     ZELTO_UNLOADING = 2,
     ZELTO_UNLOADED = 3,  // nothing running
   };
 
   CZelhostLifeCycle();
+  // The owner has unloaded it.
   ~CZelhostLifeCycle() override;
 
   // Launches the runtime and returns; readiness is reported as event ZELTO_RUNTIME_READY (371) some
-  // seconds later. False when it is loading or loaded, or when the executable is missing.
+  // seconds later. Waits for an unload that is under way. False when it is loading or loaded, or when
+  // the executable is missing.
   bool Load();
-  // Signs out, stops the runtime and reaps it, closes the media channels and deletes the managers.
-  // Always true. Takes at most about 5 seconds: a runtime that blocks the way is killed after 3.
+  // Signs out, stops the runtime and reaps it, closes the media channels and deletes the managers. Takes
+  // at most about 5 seconds: a runtime that blocks the way is killed after 3. Always true, except on the
+  // poll thread, which would have to end itself: refused there.
   bool Unload();
 
   bool IsReady() const { return m_state.load() == ZELTO_LOADED; }
@@ -47,9 +53,12 @@ class CZelhostLifeCycle : private zelto::CZeltoThread {
   bool ResetDB();
   // Removes database and snapshots, in every state.
   void InitZeltoDB();
-  // Writes the account's default settings when they are missing. Answers the value of the flag that
-  // says so, or what the writing answers.
+  // Writes the account's default settings when they are missing. Answers the flag that says they are
+  // there: 0 without a runtime.
   int InitPersonalData();
+
+  // Creates what is missing of the five managers and registers their event handlers.
+  static void BringUpManagers();
 
   // Called when the engine is about to be destroyed: from now on a runtime that keeps anybody waiting
   // is killed 3 seconds later, which releases whoever waits. Does nothing when no runtime was started.
@@ -58,21 +67,28 @@ class CZelhostLifeCycle : private zelto::CZeltoThread {
  private:
   void t_Main() override;
   bool PreInit();
-  bool ConnectAndStart();
-  void FilterOutProperties();
+  bool Connect();
+  bool StartRuntime() ZELTO_REQUIRES(zelhost::ServiceHostMutex::Get());
+  void FilterOutProperties() ZELTO_REQUIRES(zelhost::ServiceHostMutex::Get());
   void RunPollLoop();
-  pid_t StartZelHost(const std::string& executable);
-  std::string ChooseExecutable();
+
+  void CreateRoot() ZELTO_REQUIRES(zelhost::ServiceHostMutex::Get());
+  void DeleteRoot() ZELTO_REQUIRES(zelhost::ServiceHostMutex::Get());
+  pid_t StartZelHost(const std::string& executable) ZELTO_REQUIRES(zelhost::ServiceHostMutex::Get());
   void SetAvataPath();
   void StopPollThread();
-  void KillZelto();
-  bool LockUnlessStopping();
+  void KillZelto() ZELTO_REQUIRES(zelhost::ServiceHostMutex::Get());
+  void EndCallAndSignOut();
+
+  // Runs a step under the service-host mutex; false when the poll thread was asked to stop before.
+  template <class Step>
+  bool UnlessStopping(const char* who, Step step);
   bool WaitUnlessStopping(int milliseconds);
 
   std::atomic<int> m_state{ZELTO_UNLOADED};
-  std::atomic<bool> m_stop{false};     // asks the poll thread to leave
-  std::atomic<bool> m_polling{false};  // the poll thread's body runs
-  std::shared_ptr<zelhost::RuntimeProcess> m_process;
-  std::unique_ptr<ZESocketTransport> m_transport;
-  std::unique_ptr<CZelto> m_root;
+  std::atomic<bool> m_stop{false};         // asks the poll thread to leave
+  std::atomic<pthread_t> m_pollThread{0};  // 0 while its body does not run
+  std::shared_ptr<zelhost::RuntimeProcess> m_process ZELTO_GUARDED_BY(zelhost::ServiceHostMutex::Get());
+  std::unique_ptr<ZESocketTransport> m_transport ZELTO_GUARDED_BY(zelhost::ServiceHostMutex::Get());
+  std::unique_ptr<CZelto> m_root ZELTO_GUARDED_BY(zelhost::ServiceHostMutex::Get());
 };

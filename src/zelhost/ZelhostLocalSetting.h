@@ -15,14 +15,15 @@ class CZelhostLocalSetting {
   static void SetIntValue(int index, int value);
   static void SetStrValue(int index, const ZEString& value);
 
-  // Whether the application-wide defaults have been written.
+  // Whether the television's defaults have been written.
   static bool IsInitialized();
-  // Writes the application-wide defaults; the flag that says so goes last.
+  // Writes the television's defaults; the flag that says so goes last.
   static void Initialize();
-  // Writes the signed-in account's defaults; the flag that says so goes last.
-  static void PersonalInitialize();
-  // The same when the flag is not set yet.
-  static void CheckInitPersonalData();
+  // Writes the signed-in account's defaults; the flag that says so goes last. Answers the flag: 1, or 0
+  // without a root object.
+  static int PersonalInitialize();
+  // The same when the flag is not set yet. Answers the flag.
+  static int CheckInitPersonalData();
   // Puts a name in front of the five most recent ones and remembers it as the last.
   static void SaveLoggedInID(const ZEString& name);
 };

@@ -1,0 +1,41 @@
+#include "zelhost/ServiceHostMutex.h"
+
+#include "Common/Log.h"
+
+namespace zelhost {
+
+namespace {
+
+constexpr int kReportEvery = 10'000;  // milliseconds: often enough to notice, rare enough for a log
+
+}  // namespace
+
+ServiceHostMutex& ServiceHostMutex::Get() {
+  static ServiceHostMutex& mutex = *new ServiceHostMutex;
+  return mutex;
+}
+
+ServiceHostMutex::ServiceHostMutex() { m_mutex.Create(); }
+
+// Only the outermost level names the holder: that is the operation which others wait for.
+bool ServiceHostMutex::Take(const char* who, int milliseconds) {
+  const bool outermost = !m_mutex.IsOwner();
+  if (!m_mutex.LockWithin(0) && !m_mutex.LockWithin(milliseconds)) return false;
+  if (outermost) m_holder.store(who, std::memory_order_relaxed);
+  return true;
+}
+
+void ServiceHostMutex::Lock(const char* who) ZELTO_NO_THREAD_SAFETY_ANALYSIS {
+  for (int seconds = kReportEvery / 1000; !Take(who, kReportEvery); seconds += kReportEvery / 1000) {
+    zelto::Print("%s has been waiting for the service host for %d s, which is busy with %s", who, seconds,
+                 m_holder.load(std::memory_order_relaxed));
+  }
+}
+
+bool ServiceHostMutex::LockWithin(const char* who, int milliseconds) ZELTO_NO_THREAD_SAFETY_ANALYSIS {
+  return Take(who, milliseconds);
+}
+
+void ServiceHostMutex::Unlock() ZELTO_NO_THREAD_SAFETY_ANALYSIS { m_mutex.Unlock(); }
+
+}  // namespace zelhost

@@ -1,0 +1,150 @@
+#include "zelhost/ZelhostZeltoManager.h"
+
+#include <algorithm>
+#include <exception>
+#include <string>
+
+#include "Common/Log.h"
+#include "Common/Platform.h"
+#include "Common/ZeltoManager.h"
+#include "zelhost/EnginePaths.h"
+#include "zelhost/ZelhostIPCManager.h"
+#include "zelhost/ZelhostLocalSetting.h"
+#include "zelhost/commands/CommandTable.h"
+
+namespace {
+
+constexpr int kLoudest = 100;
+
+// The clock is read only when somebody sees it.
+void LogCall(const zelhost::CommandCall& call) {
+  ZELTO_DEBUG("CZelhostZeltoManager::%s, cmd = %s(%s, %s, %s, %s)\n", "Execute", call.Name(),
+              call.Parameter(1), call.Parameter(2), call.Parameter(3), call.Parameter(4));
+  if (!zelto::LogEnabled(zelto::LogLevel::Info)) return;
+  constexpr std::int64_t kMicroseconds = 1'000'000;
+  constexpr int kRed = 31;
+  const std::int64_t now = zelto::System().WallClock();
+  zelto::Log(zelto::LogLevel::Info, "\033[02;%dm[%d.%06d]\033[0m", kRed,
+             static_cast<int>(now / kMicroseconds), static_cast<int>(now % kMicroseconds));
+}
+
+// Tells the television a volume and answers what it was told.
+int SendVolume(const char* control, int volume) {
+  const int sent = std::clamp(volume, 0, kLoudest);
+  CZeltoManager::CallCommonControl(control, std::to_string(sent).c_str());
+  return sent;
+}
+
+int AskVolume(const char* control) {
+  return zelhost::ToInt(CZeltoManager::CallCommonControl(control).c_str());
+}
+
+}  // namespace
+
+CZelhostZeltoManager::~CZelhostZeltoManager() {
+  m_lifeCycle.Unload();
+  m_instance.Forget();
+}
+
+void CZelhostZeltoManager::LockMutex() { zelhost::ServiceHostMutex::Get().Lock("LockMutex"); }
+void CZelhostZeltoManager::UnlockMutex() { zelhost::ServiceHostMutex::Get().Unlock(); }
+
+const char* CZelhostZeltoManager::Execute(const char* cmd, const char* p1, const char* p2, const char* p3,
+                                          const char* p4) {
+  zelhost::ServiceHostLock lock("Execute");
+  m_answer = (m_answer + 1) % kKeptAnswers;
+  std::string& answer = m_answers[m_answer];
+  const zelhost::CommandCall call(cmd, p1, p2, p3, p4);
+  LogCall(call);
+  try {
+    if (const zelhost::Command* command = zelhost::FindCommand(call.Name())) {
+      command->run(call, answer);
+    } else {
+      answer.clear();
+    }
+  } catch (const std::exception& failure) {
+    // Memory has run out; the widget gets no answer instead of the television no picture.
+    ZELTO_FATAL("%s: %s\n", "Execute", failure.what());
+    answer.clear();
+  }
+  ZELTO_DEBUG("%s: returns %s\n", "Execute", answer.c_str());
+  return answer.c_str();
+}
+
+bool CZelhostZeltoManager::GetAutoStart() { return m_lifeCycle.GetAutoStart(); }
+bool CZelhostZeltoManager::Load() { return m_lifeCycle.Load(); }
+bool CZelhostZeltoManager::IsZeltoReady() { return m_lifeCycle.IsReady(); }
+bool CZelhostZeltoManager::Unload() { return m_lifeCycle.Unload(); }
+bool CZelhostZeltoManager::ResetDB() { return m_lifeCycle.ResetDB(); }
+void CZelhostZeltoManager::InitZeltoDB() { m_lifeCycle.InitZeltoDB(); }
+int CZelhostZeltoManager::InitPersonalData() { return m_lifeCycle.InitPersonalData(); }
+int CZelhostZeltoManager::GetZeltoState() { return m_lifeCycle.GetState(); }
+
+const char* CZelhostZeltoManager::GetAvatarFolderPath() { return zelhost::kAvatarFolder; }
+
+// The runtime's country tables are not asked yet, so these answer as without a runtime.
+const char* CZelhostZeltoManager::GetCountryList() { return nullptr; }
+const char* CZelhostZeltoManager::GetCountryList(const char*) { return nullptr; }
+int CZelhostZeltoManager::GetISOCountryPrefix(const char*) { return 0; }
+const char* CZelhostZeltoManager::GetISOCountryName(const char*, const char*) { return nullptr; }
+const char* CZelhostZeltoManager::GetLocalNumber(const char*) { return nullptr; }
+const char* CZelhostZeltoManager::FindCountryCodeByNumber(const char*) { return nullptr; }
+
+int CZelhostZeltoManager::GetLocalDBInt(int index) { return CZelhostLocalSetting::GetIntValue(index); }
+
+bool CZelhostZeltoManager::ToggleAutoAnswer() {
+  zelhost::ServiceHostLock lock("ToggleAutoAnswer");
+  m_autoAnswer = !m_autoAnswer;
+  return m_autoAnswer;
+}
+bool CZelhostZeltoManager::GetAutoAnswer() { return m_autoAnswer; }
+void CZelhostZeltoManager::SetWidgetActivatedByAnswering(bool activated) {
+  m_widgetActivatedByAnswering = activated;
+}
+bool CZelhostZeltoManager::IsWidgetActivatedByAnswering() { return m_widgetActivatedByAnswering; }
+
+void CZelhostZeltoManager::OnData(const CAVData* data) { CZelhostIPCManager::GetInstance()->SendData(data); }
+
+bool CZelhostZeltoManager::SetZeltoWidgetState(int state) {
+  m_widgetState = state;
+  CZeltoManager::SetWidgetStarted(false);
+  // The television's picture and sound do not follow yet, so the change is not reported as done.
+  return false;
+}
+bool CZelhostZeltoManager::GetZeltoWidgetState() { return m_widgetState > 0; }
+
+void CZelhostZeltoManager::SetLoggedInState(bool loggedIn) { m_loggedIn = loggedIn; }
+bool CZelhostZeltoManager::GetLoggedInState() { return m_loggedIn; }
+void CZelhostZeltoManager::SetOnlineState(bool online) { m_online = online; }
+bool CZelhostZeltoManager::GetOnlineState() { return m_online; }
+void CZelhostZeltoManager::SetSigninPopupShowState(bool shown) { m_signinPopupShown = shown; }
+bool CZelhostZeltoManager::GetSigninPopupShowState() { return m_signinPopupShown; }
+
+// There are no notices yet that could be shown.
+bool CZelhostZeltoManager::CheckShowSignedInPopup() { return false; }
+bool CZelhostZeltoManager::CheckShowOnlinePopup() { return false; }
+bool CZelhostZeltoManager::CheckShowCallDurationPopup() { return false; }
+bool CZelhostZeltoManager::CheckShowCallEndedPopup() { return false; }
+bool CZelhostZeltoManager::CheckShowMissedCallPopup() { return false; }
+
+bool CZelhostZeltoManager::WidgetHandleIncomingCall() { return m_widgetHandlesIncomingCall; }
+
+void CZelhostZeltoManager::SetSpeakerVolume(int volume) { SendVolume("SetSpeakerVolume", volume); }
+void CZelhostZeltoManager::SetCallMixVolume(int volume) {
+  CZelhostLocalSetting::SetIntValue(kSettingSpeakerVolume, SendVolume("SetSubMixAudioVolume", volume));
+}
+void CZelhostZeltoManager::SetTVMixVolume(int volume) {
+  m_tvAudioMixed = true;
+  CZelhostLocalSetting::SetIntValue(kSettingTvMixRatio, SendVolume("SetMainMixAudioVolume", volume));
+}
+int CZelhostZeltoManager::GetSpeakerVolume() { return AskVolume("GetSpeakerVolume"); }
+int CZelhostZeltoManager::GetCallMixVolume() {
+  return CZelhostLocalSetting::GetIntValue(kSettingSpeakerVolume);
+}
+int CZelhostZeltoManager::GetTVMixVolume() { return AskVolume("GetMainMixAudioVolume"); }
+
+bool CZelhostZeltoManager::StartWidegtOSDTimer(int, int) { return false; }
+bool CZelhostZeltoManager::RestartWidegtOSDTimer(int, int) { return false; }
+bool CZelhostZeltoManager::StopWidegtOSDTimer(int) { return false; }
+bool CZelhostZeltoManager::BackupWidgetData() { return false; }
+bool CZelhostZeltoManager::RestoreWidgetData() { return false; }

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "apiwrapper/ChatMember.h"
+#include "zelhost/apiwrapper/client/ClientObject.h"
+
+// One person of a chat.
+// Threads: the caller holds the service-host mutex.
+class CChatMember : public ClientObject<ChatMember, kTraceChatMember> {
+ public:
+  using ClientObject::ClientObject;
+};

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "apiwrapper/Search.h"
+#include "zelhost/apiwrapper/client/ClientObject.h"
+
+// A search of the runtime's own objects. Hands its results to the history manager and ends itself.
+// Threads: the caller holds the service-host mutex.
+class CSearch : public ClientObject<Search, kTraceSearch> {
+ public:
+  using ClientObject::ClientObject;
+
+  // What is searched for, a Search::TARGET; the receiver of the results is told.
+  void SetSearchType(int type) { m_type = type; }
+  int GetSearchType() const { return m_type; }
+
+  void OnChange(int property, const ZEString& value) override;
+
+ private:
+  void DeliverResults();
+
+  int m_type = 0;
+};
