@@ -1,0 +1,52 @@
+// What one connected engine works with, from its connection to its end.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include "simulator/runtime/service/DeviceStore.h"
+#include "simulator/runtime/service/Service.h"
+#include "simulator/runtime/world/Contacts.h"
+#include "simulator/runtime/world/Scheduler.h"
+#include "simulator/runtime/world/ServerCommit.h"
+#include "simulator/runtime/world/SignIn.h"
+#include "simulator/runtime/world/World.h"
+
+namespace simulator {
+
+// What outlives a connection. The references must outlive the session.
+struct Surroundings {
+  Service& service;
+  DeviceStore& device;
+  Outbox& outbox;
+  std::int64_t clockDifference = 0;    // seconds that the television's clock is ahead
+  std::function<void()> started = {};  // the engine has made a successful start
+  std::function<void()> stopped = {};  // the engine has asked the runtime to stop
+};
+
+// The parts in the order in which they need one another. Whoever drives the session moves its scheduler on.
+// Threads: none of its own.
+struct Session {
+  explicit Session(Surroundings with)
+      : surroundings(std::move(with)),
+        service(surroundings.service),
+        device(surroundings.device),
+        world(surroundings.outbox),
+        contacts(world, service),
+        signIn(world, contacts, service, device, scheduler),
+        commit(world, signIn, service, scheduler) {}
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+
+  Surroundings surroundings;
+  Service& service;
+  DeviceStore& device;
+  Scheduler scheduler;
+  World world;
+  Contacts contacts;
+  SignIn signIn;
+  ServerCommit commit;
+  bool started = false;
+};
+
+}  // namespace simulator

@@ -1,0 +1,42 @@
+// What the orders have in common: reading their arguments, and refusing.
+#pragma once
+
+#include <nlohmann/json.hpp>
+#include <stdexcept>
+#include <string>
+
+#include "simulator/runtime/Session.h"
+#include "simulator/runtime/door/Orders.h"
+
+namespace simulator {
+
+[[noreturn]] inline void Refuse(const std::string& reason) { throw std::invalid_argument(reason); }
+
+// An argument as text; a number too. Refuses when it is missing.
+inline std::string TextOf(const nlohmann::json& order, const char* key) {
+  const auto value = order.find(key);
+  if (value == order.end()) Refuse(std::string(key) + " is missing");
+  return value->is_string() ? value->get<std::string>() : value->dump();
+}
+
+inline std::string TextOf(const nlohmann::json& order, const char* key, const std::string& otherwise) {
+  return order.contains(key) ? TextOf(order, key) : otherwise;
+}
+
+// The row of that name; refuses when there is none, telling which there are.
+template <typename Row, std::size_t N>
+const Row& Choose(const Row (&rows)[N], const std::string& name) {
+  std::string known;
+  for (const Row& row : rows) {
+    if (name == row.name) return row;
+    known += std::string(known.empty() ? "" : ", ") + row.name;
+  }
+  Refuse("\"" + name + "\" is none of " + known);
+}
+
+inline Session& SessionOf(Controls& controls) {
+  if (controls.session == nullptr) Refuse("no engine is connected");
+  return *controls.session;
+}
+
+}  // namespace simulator

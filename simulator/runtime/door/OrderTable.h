@@ -1,0 +1,43 @@
+// The orders: their names, their main arguments and what carries them out.
+#pragma once
+
+#include <nlohmann/json.hpp>
+#include <string_view>
+
+namespace simulator {
+
+struct Controls;
+
+struct OrderRow {
+  const char* name;
+  const char* mainArgument;  // key of a bare word; empty for none
+  // Adds to the answer; throws an exception with the reason when it cannot. Null for steps that only a
+  // scenario knows.
+  void (*carryOut)(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+};
+
+// Null for an unknown name.
+const OrderRow* FindOrder(std::string_view name);
+
+namespace orders {
+
+// What happens in the runtime's world.
+void Status(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void Describe(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void SetProperty(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void SignOut(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void FailCommit(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void SendEvent(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+
+// What happens on the way to the engine, and to the process.
+void SpoilReply(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void Clear(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void SendFrame(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void SendRaw(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void Silence(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void Split(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void Freeze(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void End(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+
+}  // namespace orders
+}  // namespace simulator

@@ -1,0 +1,38 @@
+// Which function serves which request: one table per group of requests.
+#pragma once
+
+#include <cstddef>
+
+#include "apiwrapper/ZEProtocol.h"
+
+namespace simulator {
+
+class Exchange;
+struct Session;
+
+struct HandlerRow {
+  const ZEMethod* method;
+  void (*serve)(Session&, Exchange&);
+};
+
+// A table somewhere else.
+struct HandlerRows {
+  const HandlerRow* rows;
+  std::size_t count;
+  const HandlerRow* begin() const { return rows; }
+  const HandlerRow* end() const { return rows + count; }
+};
+
+template <std::size_t N>
+constexpr HandlerRows RowsOf(const HandlerRow (&rows)[N]) {
+  return {rows, N};
+}
+
+HandlerRows ObjectHandlers();   // properties of all objects
+HandlerRows RootHandlers();     // start, stop, versions, clocks
+HandlerRows SettingHandlers();  // the settings store
+HandlerRows AccountHandlers();  // accounts, signing in and out
+HandlerRows ContactHandlers();  // contacts and their groups
+HandlerRows SearchHandlers();   // searches, and lists of what there is nothing of yet
+
+}  // namespace simulator

@@ -1,0 +1,69 @@
+// Where a real service is plugged in: what the runtime needs to ask somebody who knows all accounts.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "simulator/runtime/service/LogoutReasons.h"
+#include "simulator/runtime/world/World.h"
+
+namespace simulator {
+
+struct Registration {
+  std::string name;
+  std::string password;
+  std::string email;  // may be empty
+  bool offers = false;
+};
+
+// How the service behaves towards an account, beyond its data.
+enum class Trait {
+  None,
+  Elsewhere,    // signs in at another place a moment after the sign-in here
+  Unreachable,  // the service cannot be reached
+  TooMany,      // too many attempts
+  Damaged,      // the account's data turn out to be damaged
+  FailsCommit,  // server-side values are never taken
+  FailsSync,    // the contact list never synchronises
+  Slow,         // every step of the sign-in takes a second
+};
+
+struct Capability {
+  int status = 1;           // of ACCOUNT_CAPABILITYSTATUS_MAP; 1 is "none"
+  std::int64_t expiry = 0;  // seconds since the epoch, 0 for never
+};
+
+// All operations answer at once; a service that has to wait gets its own thread behind them.
+// Threads: called by the event loop's only thread.
+class Service {
+ public:
+  using Properties = std::map<int, Value>;  // of an account, by their number
+
+  virtual ~Service() = default;
+
+  virtual bool Exists(std::string_view name) = 0;
+  // LogoutReason::None when the password opens the account.
+  virtual LogoutReason SignIn(std::string_view name, std::string_view password) = 0;
+  // LogoutReason::None when the account now exists.
+  virtual LogoutReason Register(const Registration& registration) = 0;
+  // False when the old password is wrong.
+  virtual bool ChangePassword(std::string_view name, std::string_view before, std::string_view now) = 0;
+  // Free account names that resemble a taken one.
+  virtual std::vector<std::string> SuggestNames(std::string_view name) = 0;
+  virtual Trait TraitOf(std::string_view name) = 0;
+
+  virtual Properties Profile(std::string_view name) = 0;
+  // False when nothing was stored, be it that the account does not exist.
+  virtual bool StoreProfile(std::string_view name, const Properties& values) = 0;
+  virtual Capability CapabilityOf(std::string_view name, int capability) = 0;
+
+  virtual std::vector<std::string> Contacts(std::string_view name) = 0;
+  // False when nothing was changed.
+  virtual bool AddContact(std::string_view name, std::string_view contact) = 0;
+  virtual bool RemoveContact(std::string_view name, std::string_view contact) = 0;
+};
+
+}  // namespace simulator

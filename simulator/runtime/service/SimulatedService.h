@@ -1,0 +1,42 @@
+// A service that lives in a file.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "simulator/runtime/service/Database.h"
+#include "simulator/runtime/service/Service.h"
+
+namespace simulator {
+
+// Keeps its accounts in one database file, which starts with the demonstration accounts. Passwords stand
+// in it readable: these are toy accounts on a developer's machine. What an operation has stored is there
+// after a sudden death. Throws DatabaseError when nothing can be kept.
+// Threads: none of its own.
+class SimulatedService : public Service {
+ public:
+  // The folder must exist.
+  explicit SimulatedService(const std::string& folder);
+
+  bool Exists(std::string_view name) override;
+  LogoutReason SignIn(std::string_view name, std::string_view password) override;
+  LogoutReason Register(const Registration& registration) override;
+  bool ChangePassword(std::string_view name, std::string_view before, std::string_view now) override;
+  std::vector<std::string> SuggestNames(std::string_view name) override;
+  Trait TraitOf(std::string_view name) override;
+  Properties Profile(std::string_view name) override;
+  bool StoreProfile(std::string_view name, const Properties& values) override;
+  Capability CapabilityOf(std::string_view name, int capability) override;
+  std::vector<std::string> Contacts(std::string_view name) override;
+  bool AddContact(std::string_view name, std::string_view contact) override;
+  bool RemoveContact(std::string_view name, std::string_view contact) override;
+
+ private:
+  void AddDemoAccounts();
+  void Create(const Registration& registration, const Properties& profile);
+  std::string PasswordOf(std::string_view name);
+
+  Database m_database;
+};
+
+}  // namespace simulator
