@@ -1,0 +1,109 @@
+#include "simulator/television/Host.h"
+
+#include <algorithm>
+
+namespace television {
+
+namespace {
+
+// Public events whose parameters are no texts (17: a notice record).
+constexpr int kShowNotice = 17;
+
+// A television keeps the recent past only; a script that never waits must not collect for ever.
+constexpr std::size_t kMostReports = 10000;
+
+std::vector<std::string> Texts(std::initializer_list<const char*> texts) {
+  std::vector<std::string> given;
+  for (const char* text : texts) given.emplace_back(text == nullptr ? "" : text);
+  while (!given.empty() && given.back().empty()) given.pop_back();
+  return given;
+}
+
+const char* OrEmpty(const char* text) { return text == nullptr ? "" : text; }
+
+}  // namespace
+
+void Host::Attach(IMoIPEngine& engine) {
+  engine.RegisterEventCallback(&Host::OnEvent, this);
+  engine.RegisterCommonCtrlFunc(&Host::OnControl, this);
+}
+
+void Host::StartService(IMoIPEngine& engine) { engine.RegisterDataCallback(&Host::OnData, this); }
+
+void Host::SetObserver(std::function<void(const Report&)> observer) {
+  const std::lock_guard<std::mutex> lock(m_mutex);
+  m_observer = std::move(observer);
+}
+
+bool Host::WaitFor(const std::function<bool(const Report&)>& condition, std::chrono::milliseconds limit) {
+  std::unique_lock<std::mutex> lock(m_mutex);
+  return m_arrived.wait_for(lock, limit, [&] {
+    const auto found = std::find_if(m_reports.begin(), m_reports.end(), condition);
+    if (found == m_reports.end()) return false;
+    m_reports.erase(m_reports.begin(), found + 1);
+    return true;
+  });
+}
+
+void Host::Mark() {
+  const std::lock_guard<std::mutex> lock(m_mutex);
+  m_reports.clear();
+}
+
+void Host::WithState(const std::function<void(TelevisionState&)>& action) {
+  const std::lock_guard<std::mutex> lock(m_mutex);
+  action(m_state);
+}
+
+Host::MediaCounts Host::Media() {
+  const std::lock_guard<std::mutex> lock(m_mutex);
+  return m_media;
+}
+
+void Host::Add(Report report) {
+  std::function<void(const Report&)> observer;
+  {
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_reports.push_back(report);
+    if (m_reports.size() > kMostReports) m_reports.pop_front();
+    observer = m_observer;
+  }
+  m_arrived.notify_all();
+  if (observer) observer(report);
+}
+
+bool Host::OnEvent(const CEngineEvent* event, void* user) {
+  Report report;
+  report.kind = Report::Kind::Event;
+  report.type = event->type;
+  if (event->type != kShowNotice) report.parameters = Texts({event->param1, event->param2});
+  static_cast<Host*>(user)->Add(std::move(report));
+  return true;
+}
+
+bool Host::OnData(const CAVData* data, void* user, void*) {
+  auto* self = static_cast<Host*>(user);
+  const std::lock_guard<std::mutex> lock(self->m_mutex);
+  ++(data->type == 0 ? self->m_media.audioRecords : self->m_media.otherRecords);
+  self->m_media.bytes += data->size;
+  return true;
+}
+
+const char* Host::OnControl(const char* command, const char* p1, const char* p2, const char* p3,
+                            const char* p4, void* user) {
+  auto* self = static_cast<Host*>(user);
+  Report report;
+  report.kind = Report::Kind::Control;
+  report.command = OrEmpty(command);
+  report.parameters = Texts({p1, p2, p3, p4});
+  {
+    const std::lock_guard<std::mutex> lock(self->m_mutex);
+    self->m_answer =
+        self->m_state.Control(report.command, OrEmpty(p1), OrEmpty(p2), OrEmpty(p3), OrEmpty(p4));
+    report.answer = self->m_answer;
+  }
+  self->Add(std::move(report));
+  return self->m_answer.c_str();
+}
+
+}  // namespace television

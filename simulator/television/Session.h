@@ -1,0 +1,78 @@
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+#include "simulator/television/DeviceRoot.h"
+#include "simulator/television/EngineLibrary.h"
+#include "simulator/television/Host.h"
+#include "simulator/television/Screen.h"
+
+namespace television {
+
+// A television with its engine, driven by lines: the engine's string commands by their names, the host
+// queries, and a few words of the console's own (Session.cpp lists them in one table). A person at the
+// prompt and a script use the same lines.
+// Threads: one.
+class Session {
+ public:
+  // Throws std::runtime_error when the library cannot be loaded.
+  Session(const std::string& library, const DeviceRoot& root, Screen& screen);
+  ~Session();
+
+  // Runs one line; empty lines and those that begin with "#" do nothing.
+  void Run(const std::string& line);
+  // Runs lines until the end, "quit" or, for scripts, the first failed expectation.
+  void RunScript(std::istream& script);
+
+  bool Finished() const { return m_finished; }
+  // Counts of "expect" and "wait" lines.
+  int Held() const { return m_held; }
+  int Failed() const { return m_failed; }
+  // Words that a line may begin with, for completion.
+  static std::vector<std::string> FirstWords();
+
+ private:
+  using Words = std::vector<std::string>;
+  struct Verb {
+    const char* name;
+    const char* parameters;
+    const char* help;
+    void (Session::*run)(const Words& words);
+  };
+  static const Verb kVerbs[];
+
+  void Execute(const Words& words);
+  void Help(const Words& words);
+  void Events(const Words& words);
+  void Ask(const Words& words);
+  void Start(const Words& words);
+  void Restart(const Words& words);
+  void Expect(const Words& words);
+  void ExpectLike(const Words& words);
+  void WaitEvent(const Words& words);
+  void WaitControl(const Words& words);
+  void Set(const Words& words);
+  void Show(const Words& words);
+  void Reports(const Words& words);
+  void OrderDoor(const Words& words);
+  void Say(const Words& words);
+  void Quit(const Words& words);
+
+  void Attach();
+  void Hold(bool held, const std::string& expectation);
+  bool Wait(const std::string& what, int seconds, const std::function<bool(const Report&)>& condition);
+
+  const DeviceRoot& m_root;
+  Screen& m_screen;
+  Host m_host;
+  EngineLibrary m_library;
+  std::string m_line;    // as it was given, for what wants it unsplit
+  std::string m_answer;  // of the last command or query
+  bool m_finished = false;
+  int m_held = 0;
+  int m_failed = 0;
+};
+
+}  // namespace television

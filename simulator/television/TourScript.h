@@ -1,0 +1,67 @@
+// What `zelto-tv --tour` shows: a television is switched on, a viewer signs in, changes things, signs out
+// and is signed in by himself the next time.
+#pragma once
+
+namespace television {
+
+inline constexpr char kTourScript[] = R"(
+say The television is switched on; the engine starts its runtime
+reports off
+start
+wait ZELTO_RUNTIME_READY 20
+GetZeltoState
+expect 1
+GetTVModel
+GetLoginState
+expect 0
+
+say Sign in with a password
+reports on
+Login demo demo1234 1
+expect 1
+wait ACCOUNT_LOGGED_IN 10
+GetLoginState
+expect 2
+query IsLoggedIn
+expect "yes | demo"
+
+say The account's values
+GetAccountInfo 1
+expect demo
+GetAccountInfo 2
+GetAccountInfo 16
+GetAccountInfo 15
+GetAccountCapability 1
+SetProp 16 "At home, by the television"
+expect 1
+GetAccountInfo 16
+expect "At home, by the television"
+
+say Settings are written and read back
+SetMicVolume 77
+GetMicVolume
+expect 77
+SetCallForwardTimer 45
+GetCallForwardTimer
+expect 45
+
+say Sign out
+Logout 0
+wait ACCOUNT_LOGGED_OUT 10
+GetLoginState
+expect 0
+
+say The television is switched off and on: the viewer is signed in without a word
+set autoStart 1
+reports off
+restart
+wait ZELTO_RUNTIME_READY 20
+reports on
+wait ACCOUNT_LOGGED_IN 10
+GetMicVolume
+expect 77
+GetAccountInfo 16
+expect "At home, by the television"
+)";
+
+}  // namespace television

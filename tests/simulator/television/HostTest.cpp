@@ -1,0 +1,113 @@
+#include "simulator/television/Host.h"
+
+#include <gmock/gmock.h>
+
+#include <thread>
+
+using television::Host;
+using television::Report;
+using television::TelevisionState;
+using ::testing::ElementsAre;
+
+namespace {
+
+// Stands in for the engine: keeps the functions that a host registers.
+class RegistrationOnlyEngine : public IMoIPEngine {
+ public:
+  const char* Execute(const char*, const char*, const char*, const char*, const char*) noexcept override {
+    return "";
+  }
+  void RegisterEventCallback(MoIPEventCallback callback, void* user) noexcept override {
+    m_event = callback, m_user = user;
+  }
+  void OnData(const CAVData*) noexcept override {}
+  void RegisterDataCallback(MoIPDataCallback callback, void*) noexcept override { m_data = callback; }
+  void RegisterCommonCtrlFunc(MoIPCommonCtrlFunc function, void*) noexcept override { m_control = function; }
+
+  std::string Control(const char* command, const char* p1 = nullptr, const char* p2 = nullptr) {
+    return m_control(command, p1, p2, nullptr, nullptr, m_user);
+  }
+  void Event(int type, const char* p1) {
+    const CEngineEvent event{type, const_cast<char*>(p1), nullptr};
+    m_event(&event, m_user);
+  }
+  void Data(int type, unsigned size) {
+    const CAVData data{type, 0, size, nullptr};
+    m_data(&data, m_user, nullptr);
+  }
+
+ private:
+  MoIPEventCallback m_event = nullptr;
+  MoIPDataCallback m_data = nullptr;
+  MoIPCommonCtrlFunc m_control = nullptr;
+  void* m_user = nullptr;
+};
+
+class ATelevisionHost : public ::testing::Test {
+ protected:
+  ATelevisionHost() {
+    host.Attach(engine);
+    host.StartService(engine);
+  }
+
+  static bool IsEvent(const Report& report, int type) {
+    return report.kind == Report::Kind::Event && report.type == type;
+  }
+
+  RegistrationOnlyEngine engine;
+  Host host;
+};
+
+}  // namespace
+
+TEST_F(ATelevisionHost, KeepsWhatControlCallsStoreAndAnswersIt) {
+  EXPECT_EQ(engine.Control("GetSpeakerVolume"), "20");
+  EXPECT_EQ(engine.Control("SetSpeakerVolume", "0"), "1");
+  EXPECT_EQ(engine.Control("GetSpeakerVolume"), "0");
+  EXPECT_EQ(engine.Control("StartPIGMode", "10", "20"), "1");
+  host.WithState([](TelevisionState& state) { EXPECT_EQ(state.Get("pig"), "10 20  "); });
+  EXPECT_EQ(engine.Control("NoSuchCommand"), "");
+}
+
+TEST_F(ATelevisionHost, AnswersItsOwnClockAndLocalTime) {
+  host.WithState([](TelevisionState& state) { EXPECT_TRUE(state.Set("clockOffset", "100000")); });
+  EXPECT_GE(std::stol(engine.Control("GetEpochTime")), std::time(nullptr) + 99999);
+  setenv("TZ", "UTC", 1);
+  EXPECT_EQ(engine.Control("GetLocalTime", "86399"), "1970-01-01 23:59:59");
+  EXPECT_EQ(engine.Control("GetLocalTime12", "86399"), "1970-01-01 11:59 PM");
+}
+
+TEST_F(ATelevisionHost, WaitsForReportsInTheirOrderOnly) {
+  engine.Event(256, "0");
+  engine.Event(257, "3");
+  EXPECT_TRUE(
+      host.WaitFor([](const Report& report) { return IsEvent(report, 257); }, std::chrono::seconds(5)));
+  EXPECT_FALSE(
+      host.WaitFor([](const Report& report) { return IsEvent(report, 256); }, std::chrono::milliseconds(1)));
+  std::thread later([this] { engine.Event(371, "0"); });
+  EXPECT_TRUE(
+      host.WaitFor([](const Report& report) { return IsEvent(report, 371); }, std::chrono::seconds(5)));
+  later.join();
+}
+
+TEST_F(ATelevisionHost, CopiesTextsButNeverReadsANoticeRecordAsText) {
+  std::vector<Report> seen;
+  host.SetObserver([&](const Report& report) { seen.push_back(report); });
+  std::string text = "anna";
+  engine.Event(21, text.c_str());
+  text = "gone";
+  const unsigned char record[4] = {0xff, 0xff, 0xff, 0xff};  // no terminator
+  engine.Event(17, reinterpret_cast<const char*>(record));
+  ASSERT_EQ(seen.size(), 2u);
+  EXPECT_THAT(seen[0].parameters, ElementsAre("anna"));
+  EXPECT_TRUE(seen[1].parameters.empty());
+}
+
+TEST_F(ATelevisionHost, CountsMediaRecords) {
+  engine.Data(0, 960);
+  engine.Data(1, 100);
+  const Host::MediaCounts media = host.Media();
+  EXPECT_EQ(media.audioRecords, 1u);
+  EXPECT_EQ(media.otherRecords, 1u);
+  EXPECT_EQ(media.bytes, 1060u);
+}
