@@ -8,6 +8,7 @@
 #include <chrono>
 #include <future>
 #include <thread>
+#include <vector>
 
 #include "Common/EventQueue.h"
 #include "Common/EventThread.h"
@@ -83,35 +84,45 @@ Seconds ClockCost() {
   return cost;
 }
 
-// Takes the time of one of `events` since `start`.
-void SetTime(benchmark::State& state, Clock::time_point start, std::size_t events) {
-  const Seconds passed = Clock::now() - start - ClockCost();
-  state.SetIterationTime(std::max(0.0, passed.count() / static_cast<double>(events)));
+// One iteration of a benchmark: the median of many rounds, so that rounds in which the machine did something
+// else do not count. `round` answers how long it took; the time reported is that of one of its `events`.
+template <class Round>
+void TakeMedian(benchmark::State& state, std::size_t rounds, std::size_t events, Round round) {
+  std::vector<double> times(rounds);
+  for (double& time : times) time = (round() - ClockCost()).count();
+  const auto median = times.begin() + static_cast<std::ptrdiff_t>(rounds / 2);
+  std::nth_element(times.begin(), median, times.end());
+  state.SetIterationTime(std::max(0.0, *median / static_cast<double>(events)));
 }
 
 // Sends while `queued` events wait.
 template <class Queue>
-void SendEvent(benchmark::State& state, std::size_t queued) {
+void SendEvent(benchmark::State& state, std::size_t queued, std::size_t rounds) {
   Queue queue;
   for (std::size_t i = 0; i < queued; ++i) queue.Send(1);
   for (auto _ : state) {
-    const auto start = Clock::now();
-    for (std::size_t i = 0; i < kBurst; ++i) queue.Send(1);
-    SetTime(state, start, kBurst);
-    queue.Take(kBurst);
+    TakeMedian(state, rounds, kBurst, [&] {
+      const auto start = Clock::now();
+      for (std::size_t i = 0; i < kBurst; ++i) queue.Send(1);
+      const Seconds passed = Clock::now() - start;
+      queue.Take(kBurst);
+      return passed;
+    });
   }
   queue.Take(queued);
 }
 
 // Drains a queue of `queued` events.
 template <class Queue>
-void DrainEvent(benchmark::State& state, std::size_t queued) {
+void DrainEvent(benchmark::State& state, std::size_t queued, std::size_t rounds) {
   Queue queue;
   for (auto _ : state) {
-    for (std::size_t i = 0; i < queued; ++i) queue.Send(1);
-    const auto start = Clock::now();
-    queue.Drain();
-    SetTime(state, start, queued);
+    TakeMedian(state, rounds, queued, [&] {
+      for (std::size_t i = 0; i < queued; ++i) queue.Send(1);
+      const auto start = Clock::now();
+      queue.Drain();
+      return Seconds(Clock::now() - start);
+    });
   }
   benchmark::DoNotOptimize(g_delivered);
 }
@@ -130,11 +141,11 @@ int main(int argc, char** argv) {
   std::promise<void> done;
   std::thread second([finished = done.get_future()] { finished.wait(); });
 
-  // Times are those of one event, so the number of rounds is given instead of grown until they add up.
-  constexpr int kMany = 20'000;
-  constexpr int kFew = 300;
-  const auto add = [](const char* name, auto body, std::size_t queued, int rounds) {
-    benchmark::RegisterBenchmark(name, body, queued)->UseManualTime()->Iterations(rounds);
+  // Times are those of one event, so the number of iterations is given instead of grown until they add up.
+  constexpr std::size_t kMany = 1001;
+  constexpr std::size_t kFew = 15;
+  const auto add = [](const char* name, auto body, std::size_t queued, std::size_t rounds) {
+    benchmark::RegisterBenchmark(name, body, queued, rounds)->UseManualTime()->Iterations(20);
   };
   add("SendEvent/zelto", SendEvent<EnginesQueue>, 10, kMany);
   add("SendEvent/zelto100000", SendEvent<EnginesQueue>, kLargest, kMany);

@@ -20,7 +20,7 @@ class EventHandlers {
   // Replaces the type's handler. False, and no change, for a type that no event has.
   bool Set(int type, CZeltoEventHandler* handler);
   // The type must be an engine event's. Null: nobody reacts.
-  CZeltoEventHandler* Find(int type) const { return s_handlers[type].load(std::memory_order_acquire); }
+  static CZeltoEventHandler* Find(int type) { return s_handlers[type].load(std::memory_order_acquire); }
   // Empties the table.
   void Clear();
 

@@ -15,11 +15,6 @@ constexpr int Remainder(int delay) {
 
 }  // namespace
 
-EventQueue& EventQueue::Get() {
-  static EventQueue* const queue = new EventQueue;
-  return *queue;
-}
-
 void EventQueue::Open() {
   MutexLock lock(m_lock);
   m_open = true;

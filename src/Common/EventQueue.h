@@ -22,7 +22,10 @@ class EventQueue {
   static constexpr int kTickMilliseconds = 10;
 
   // The engine's own.
-  static EventQueue& Get();
+  static EventQueue& Get() {
+    static EventQueue* const queue = new EventQueue;
+    return *queue;
+  }
 
   // A closed queue drops what it holds and whatever is sent to it. Starts closed.
   void Open();

@@ -66,7 +66,7 @@ void EventThread::Process(const CZeltoEvent& event) {
     return;
   }
   ZELTO_DEBUG("CZeltoManager::%s,  event type = %d\n", "OnEvent", event.type);
-  CZeltoEventHandler* handler = EventHandlers::Get().Find(event.type);
+  CZeltoEventHandler* handler = EventHandlers::Find(event.type);
   if (handler == nullptr) {
     CZeltoManager::NotifyEngineEvent(&event);
   } else if (handler->OnEvent(&event)) {

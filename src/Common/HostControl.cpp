@@ -34,11 +34,6 @@ class HostControl::Visit {
   std::atomic<pthread_t>& m_inside;
 };
 
-HostControl& HostControl::Get() {
-  static HostControl* const control = new HostControl;
-  return *control;
-}
-
 void HostControl::SetEventCallback(MoIPEventCallback callback, void* user) {
   if (IsReentry("RegisterEventCallback")) return;
   MutexLock lock(m_lock);

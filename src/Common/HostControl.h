@@ -19,7 +19,10 @@ namespace zelto {
 // Threads: any. Lives as long as the process.
 class HostControl {
  public:
-  static HostControl& Get();
+  static HostControl& Get() {
+    static HostControl* const control = new HostControl;
+    return *control;
+  }
 
   void SetEventCallback(MoIPEventCallback callback, void* user);
   void SetDataCallback(MoIPDataCallback callback, void* user);

@@ -70,16 +70,20 @@ void Deliver(int type, const char* p1, const char* p2) {
 
 CZeltoManager* CZeltoManager::GetInstance() noexcept {
   CZeltoManager* manager = s_instance.load(std::memory_order_acquire);
-  return manager != nullptr || s_ended ? manager : Create();
+  return manager != nullptr || s_ended ? manager : Make(false);
 }
 
 CZeltoManager* CZeltoManager::Create() noexcept {
   // From inside a host function only the present engine: an ending one waits for that function.
-  if (HostControl::Get().IsInside()) return s_instance;
-  return Guard("engine_create", []() -> CZeltoManager* {
+  return HostControl::Get().IsInside() ? s_instance.load() : Make(true);
+}
+
+CZeltoManager* CZeltoManager::Make(bool again) noexcept {
+  return Guard("engine_create", [again]() -> CZeltoManager* {
     zelto::MutexLock lock(LifeLock());
     CZeltoManager* manager = s_instance.load(std::memory_order_acquire);
-    if (manager != nullptr) return manager;
+    // Asked once more under the lock: an engine may have come and gone since the caller looked.
+    if (manager != nullptr || (s_ended && !again)) return manager;
     manager = new CZeltoManager;
     s_serviceEnded = false;
     s_instance.store(manager, std::memory_order_release);

@@ -146,6 +146,8 @@ class CZeltoManager final : public IMoIPEngine, public EngineEventTypes {
 
  private:
   CZeltoManager();  // throws when the event thread can't be started
+  // `again`: also when an engine has been destroyed before.
+  static CZeltoManager* Make(bool again) noexcept;
 
   template <class Result, class... Parameters, class... Arguments>
   static Result Ask(Result (CZeltoManagerImp::*operation)(Parameters...), Arguments... arguments) {

@@ -100,7 +100,7 @@ TEST(AHostCompiledElsewhere, ReachesEveryOperationByItsSlot) {
   EXPECT_EQ(id, "ann");
   EXPECT_FALSE(CallSlot<bool>(engine, 9, &index, &number, &id, &id, &number));
   EXPECT_FALSE(CallSlot<bool>(engine, 10, &index, &id, &id, &number, &id));
-  for (std::size_t slot : {11, 15, 16, 17}) EXPECT_FALSE(CallSlot<bool>(engine, slot, &ann, &id)) << slot;
+  for (std::size_t slot : {11u, 15u, 16u, 17u}) EXPECT_FALSE(CallSlot<bool>(engine, slot, &ann, &id)) << slot;
   EXPECT_FALSE(CallSlot<bool>(engine, 12, &ann, &number));
   EXPECT_TRUE(CallSlot<bool>(engine, 13, &ann, 2));
   EXPECT_EQ(CZeltoManager::GetRunWidgetParam(),

@@ -120,6 +120,7 @@ TEST_F(ARunningEngine, NeverEntersTheHostWithTwoThreads) {
     });
   }
   for (std::thread& thread : threads) thread.join();
+  Destroy();
   EXPECT_EQ(most, 1);
 }
 
