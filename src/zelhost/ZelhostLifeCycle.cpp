@@ -84,7 +84,7 @@ bool CZelhostLifeCycle::Load() {
   if (StartZelHost(executable) != 0) {
     if (m_pollThread != 0) ZELTO_FATAL("Already poll event thread is running");
     if (IsCreated()) StopPollThread();
-    Create("MoIPPollEventThread");
+    if (!Create("MoIPPollEventThread")) ZELTO_FATAL("Nobody will listen to zelhost until the next unload");
   } else {
     ZELTO_FATAL("Fail to fork zelhost");
   }

@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
-#include <stdlib.h>
 
 #include <cstdio>
-#include <filesystem>
 #include <optional>
 #include <set>
 #include <string>
@@ -12,6 +10,7 @@
 
 #include "Common/Log.h"
 #include "Common/Platform.h"
+#include "tests/support/DeviceRoot.h"
 #include "tests/support/SurvivalCheck.h"
 #include "tests/zelhost/FakeTelevision.h"
 #include "zelhost/commands/CommandCall.h"
@@ -28,28 +27,13 @@ const char* const kRows[] = {
 class AnEngineBeforeLoad : public testing::Test {
  protected:
   AnEngineBeforeLoad() {
-    setenv("ZELTO_DEVICE_ROOT", m_root.Path().c_str(), 1);
     zelto::g_debugLevel = 0;
     m_television.emplace();
   }
   ~AnEngineBeforeLoad() override {
     m_television.reset();
     zelto::g_debugLevel = 1;
-    unsetenv("ZELTO_DEVICE_ROOT");
   }
-
-  class Folder {
-   public:
-    Folder() {
-      char pattern[] = "/tmp/zelto-dispatcher-XXXXXX";
-      m_path = mkdtemp(pattern);
-    }
-    ~Folder() { std::filesystem::remove_all(m_path); }
-    const std::string& Path() const { return m_path; }
-
-   private:
-    std::string m_path;
-  };
 
   FakeTelevision& Television() { return *m_television; }
   std::string Execute(const std::string& command, const char* p1 = nullptr, const char* p2 = nullptr,
@@ -57,7 +41,7 @@ class AnEngineBeforeLoad : public testing::Test {
     return m_television->Execute(command, p1, p2, p3, p4);
   }
 
-  Folder m_root;
+  test::DeviceRoot m_root;
   test::SurvivalCheck m_survival;
   std::optional<FakeTelevision> m_television;
 };

@@ -45,12 +45,17 @@ class FakeTelevision {
   // Whether the event arrives within the patience of a test.
   bool WaitForEvent(int type) {
     std::unique_lock lock(m_mutex);
-    return m_changed.wait_for(lock, std::chrono::seconds(20), [&] {
-      return std::find(m_events.begin(), m_events.end(), type) != m_events.end();
-    });
+    return m_changed.wait_for(lock, std::chrono::seconds(20), [&] { return HasSeen(type); });
+  }
+  // Whether it has arrived so far.
+  bool HasReceived(int type) {
+    const std::lock_guard lock(m_mutex);
+    return HasSeen(type);
   }
 
  private:
+  bool HasSeen(int type) const { return std::find(m_events.begin(), m_events.end(), type) != m_events.end(); }
+
   static bool OnEvent(const CEngineEvent* event, void* user) {
     auto* self = static_cast<FakeTelevision*>(user);
     const std::lock_guard lock(self->m_mutex);

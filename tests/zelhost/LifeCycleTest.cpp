@@ -35,6 +35,9 @@ class AService : public test::Service {
     EXPECT_EQ(zelhost::RuntimeProcess::Current(), nullptr);
     EXPECT_FALSE(m_device.Has("/tmp/shmipc2_conn"));
   }
+  static std::ptrdiff_t Threads() {
+    return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
+  }
   bool WaitForState(int state) {
     for (int step = 0; step < 4000 && CZeltoManager::GetZeltoState() != state; ++step) usleep(5'000);
     return CZeltoManager::GetZeltoState() == state;
@@ -215,6 +218,19 @@ TEST_F(AService, UnloadsWhileThePollThreadWaitsForTheUnloadingThread) {
   ExpectUnloadsWithin(5);
 }
 
+// The poll thread is the one that asks for the camera, deep inside of what an unload would take down.
+const char* UnloadingTelevision(const char* cmd, const char*, const char*, const char*, const char*, void*) {
+  if (std::strcmp(cmd, "IsEmbeddedCamera") != 0) return nullptr;
+  return CZeltoManager::Unload() ? "1" : "0";
+}
+
+TEST_F(AService, RefusesToUnloadOnItsOwnPollThread) {
+  CZeltoManager::GetInstance()->RegisterCommonCtrlFunc(UnloadingTelevision, nullptr);
+  ASSERT_TRUE(IsLoaded());
+  EXPECT_EQ(m_runtime->requests(kStart).at(0).arguments.at("1553"), "10070/1.0.0.0/");
+  ExpectUnloadsWithin(5);
+}
+
 TEST_F(AService, AnswersAStopWithinItsStartUpTime) {
   ASSERT_TRUE(Load());
   EXPECT_LT(SecondsOf([] { CZeltoManager::Unload(); }), 3);
@@ -262,8 +278,11 @@ TEST_F(AService, OpensItsChannelsThoughAKilledEngineLeftSegmentsBehind) {
 }
 
 TEST_F(AService, LeavesNothingBehindInThreeRounds) {
+  const std::ptrdiff_t threads = Threads();
   ASSERT_TRUE(IsLoaded());
   ExpectUnloadsWithin(5);
+  // Threads that have done their work take a moment to leave.
+  for (int step = 0; step < 1'000 && Threads() > threads; ++step) usleep(5'000);
   test::SurvivalCheck survival({m_device.Path()});
   for (int round = 0; round < 3; ++round) {
     ASSERT_TRUE(IsLoaded());

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <atomic>
 #include <cerrno>
@@ -12,7 +13,6 @@
 #include "Common/Log.h"
 #include "tests/support/DeviceRoot.h"
 #include "tests/support/FastClock.h"
-#include "tests/support/SurvivalCheck.h"
 #include "tests/support/Watchdog.h"
 #include "zelhost/EnginePaths.h"
 
@@ -38,6 +38,12 @@ class Observer : public test::FastClock {
 
 class ARuntimeProcess : public testing::Test {
  protected:
+  // Whatever a test did, no child is left: not even a dead one.
+  ~ARuntimeProcess() override {
+    EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
+    EXPECT_EQ(errno, ECHILD);
+  }
+
   std::shared_ptr<RuntimeProcess> Start(const std::string& script = "exec sleep 600") {
     m_device.InstallRuntime(script);
     return RuntimeProcess::Start(zelhost::kRuntimeExecutable, "17");
@@ -55,32 +61,32 @@ class ARuntimeProcess : public testing::Test {
   test::Watchdog m_watchdog{60};
   test::DeviceRoot m_device;
   Observer m_platform{20};
-  test::SurvivalCheck m_survival;
 };
 
 TEST_F(ARuntimeProcess, IsStartedWithItsCommandLineItsHomeAndNoForeignDescriptors) {
+  constexpr int kForeign = 77;
+  ASSERT_EQ(dup2(STDERR_FILENO, kForeign), kForeign);  // which a careless host leaves open
   const auto process = Start(
-      "{ echo \"$0 $*\"; echo \"$HOME\"; pwd; echo \"$ZELTO_DEVICE_ROOT\"; ls /proc/$$/fd | wc -l; } > "
-      "$HOME/out\n"
+      "{ echo \"$0 $*\"; echo \"$HOME\"; pwd; echo \"$ZELTO_DEVICE_ROOT\"\n"
+      "[ -e /proc/$$/fd/77 ] && echo inherited; } > \"$HOME/out\"\n"
       "mv out ready\nexec sleep 600");
+  close(kForeign);
   ASSERT_NE(process, nullptr);
   EXPECT_EQ(RuntimeProcess::Current(), process);
   const std::string home = m_device / zelhost::kEngineHome;
-  ASSERT_TRUE(Eventually([&] { return m_device.Has(std::string(zelhost::kEngineHome) + "/ready"); }));
-  const std::string out = m_device.Read(std::string(zelhost::kEngineHome) + "/ready");
-  const std::string expected = home + "/zelhost -s " + (m_device / "/dtv/socket") + " -x -o -m 17\n" + home +
-                               "\n" + home + "\n" + m_device.Path() + "\n";
-  EXPECT_EQ(out.substr(0, expected.size()), expected);
-  // Its standard three, the script's own, and those of the shell's redirection.
-  EXPECT_LE(std::atoi(out.c_str() + expected.size()), 6) << out;
+  const std::string ready = std::string(zelhost::kEngineHome) + "/ready";
+  ASSERT_TRUE(Eventually([&] { return m_device.Has(ready); }));
+  EXPECT_EQ(m_device.Read(ready), home + "/zelhost -s " + (m_device / "/dtv/socket") + " -x -o -m 17\n" +
+                                      home + "\n" + home + "\n" + m_device.Path() + "\n");
   process->Reap();
 }
 
-TEST_F(ARuntimeProcess, IsNoneWhenItCannotBeExecuted) {
+// The system may let the parent go on a moment before the child counts as ended.
+TEST_F(ARuntimeProcess, EndsAtOnceWhenItCannotBeExecuted) {
   m_device.Write("/mtd_rwcommon/moip/engines/Zelto/zelhost", "#!/nowhere/interpreter\n");
   std::filesystem::permissions(m_device / zelhost::kRuntimeExecutable, std::filesystem::perms::owner_all);
-  EXPECT_EQ(RuntimeProcess::Start(zelhost::kRuntimeExecutable, "0"), nullptr);
-  EXPECT_EQ(RuntimeProcess::Current(), nullptr);
+  const auto process = RuntimeProcess::Start(zelhost::kRuntimeExecutable, "0");
+  EXPECT_TRUE(process == nullptr || Eventually([&] { return !process->IsRunning(); }));
 }
 
 TEST_F(ARuntimeProcess, IsKilledAfterASecondWhenItIgnoresTheStopRequest) {

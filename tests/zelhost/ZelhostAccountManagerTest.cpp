@@ -1,5 +1,9 @@
 #include "zelhost/ZelhostAccountManager.h"
 
+#include "Common/CallManager.h"
+#include "Common/ChatManager.h"
+#include "Common/ContactManager.h"
+#include "Common/HistoryManager.h"
 #include "tests/zelhost/RootFixture.h"
 #include "tests/zelhost/Service.h"
 #include "zelhost/ServiceHostMutex.h"
@@ -263,6 +267,9 @@ TEST_F(AnAccountManager, ReloadsARuntimeWhoseDatabaseIsBrokenFromItsOwnHandler) 
   m_memory.SetProperty(kAccount, "1892", "2055");
   Change(kStatus, kSignedOut);
   ASSERT_TRUE(m_host.WaitFor(CZeltoManager::ACCOUNT_LOGGED_OUT, "21"));
+  // Long before the new runtime is ready.
+  EXPECT_TRUE(CContactManager::HasManager() && CCallManager::HasManager() && CChatManager::HasManager() &&
+              CHistoryManager::HasManager());
   EXPECT_FALSE(m_device.Has(database));
   EXPECT_EQ(Accounts().GetLogoutReason(), 21);
   EXPECT_EQ(Accounts().GetLoginState(), 0);

@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "apiwrapper/Zelto.h"
+#include "zelhost/ServiceHostMutex.h"
 #include "zelhost/apiwrapper/client/CContactSearch.h"
 #include "zelhost/apiwrapper/client/CList.h"
 #include "zelhost/apiwrapper/client/TraceCategories.h"
@@ -88,7 +89,7 @@ class CZelto : public Zelto {
   void OnProxyAuthenticationFailure(PROXYTYPE type) override;
   void OnUpgradeInfo(UPGRADEAVAILABILITY availability, const ZEString& text) override;
   void OnUICRequest(const ZEString& blob) override;
-  void OnNewCall(Call* call) override;
+  void OnNewCall(Call* call) override ZELTO_REQUIRES(zelhost::ServiceHostMutex::Get());
   void OnIncomingTransfer(Transfer* transfer) override;
   void OnIncomingVoicemail(Voicemail* voicemail) override;
   void OnChatMessage(Chat* chat, ChatMessage* message) override;
@@ -96,7 +97,7 @@ class CZelto : public Zelto {
   void OnContactOnlineAppearance(Contact* contact) override;
 
  private:
-  bool IsBusy(const CCall* call) const;
+  bool IsBusy(const CCall* call) const ZELTO_REQUIRES(zelhost::ServiceHostMutex::Get());
   void RefuseAsBusy(CCall* call);
   void HandleContactGroup(ContactGroup* group, PARAM mode);
   void TraceGroup(ContactGroup* group, const ZEPtrVector& contacts) const;
