@@ -3,6 +3,7 @@
 #include <unistd.h>
 #include <csignal>
 
+#include <algorithm>
 #include <utility>
 
 #include "simulator/runtime/Log.h"
@@ -19,6 +20,7 @@ void Wire::Send(std::string_view text) {
   if (m_connection == nullptr || m_silent) return;
   if (m_verbose) Log("> " + m_decoder.Words(text));
   m_connection->Send(text);
+  m_longest = std::max(m_longest, kFrameHeader + text.size());
   Count();
 }
 

@@ -22,6 +22,10 @@ bool Fits(const FaultOrder& order, const ZEMethod* method) {
 bool Faults::Take(const ZEMethod* method, FaultOrder& order) {
   for (auto candidate = m_orders.begin(); candidate != m_orders.end(); ++candidate) {
     if (!Fits(*candidate, method)) continue;
+    if (candidate->after > 0) {
+      --candidate->after;
+      continue;
+    }
     order = *candidate;
     if (candidate->count > 0 && --candidate->count == 0) m_orders.erase(candidate);
     return true;

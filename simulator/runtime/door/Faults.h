@@ -1,6 +1,7 @@
 // Replies that go wrong on purpose.
 #pragma once
 
+#include <cstddef>
 #include <random>
 #include <string>
 #include <string_view>
@@ -26,17 +27,21 @@ enum class ReplyFault {
 struct FaultOrder {
   ReplyFault fault = ReplyFault::Drop;
   std::string method;    // "Account.GetProps"; empty for every request
-  int count = 1;         // of the next replies it meets; negative for all
+  int after = 0;         // of the replies it meets, so many stay whole first
+  int count = 1;         // of the next replies it spoils; negative for all
   int milliseconds = 0;  // of a delay
 };
 
-// The orders apply in turn: the first that fits a request spoils its reply, and goes when used up.
+// The orders apply in turn: the first that fits a request spoils its reply, and goes when used up; one that
+// has replies to leave whole first counts this one and lets the next order have it.
 // Threads: none of its own.
 class Faults {
  public:
   explicit Faults(unsigned seed) : m_random(seed) {}
 
   bool Any() const { return !m_orders.empty(); }
+  // The orders that are not used up.
+  std::size_t Waiting() const { return m_orders.size(); }
   void Add(FaultOrder order) { m_orders.push_back(std::move(order)); }
   void Clear() { m_orders.clear(); }
 

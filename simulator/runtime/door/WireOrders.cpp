@@ -56,6 +56,7 @@ void SpoilReply(Controls& controls, const json& order, json&) {
   FaultOrder fault;
   fault.fault = Choose(kReplyFaults, TextOf(order, "fault")).fault;
   fault.method = TextOf(order, "method", "");
+  fault.after = order.value("after", 0);
   fault.count = TextOf(order, "count", "1") == "every" ? -1 : order.value("count", 1);
   fault.milliseconds = order.value("milliseconds", 1000);
   controls.faults.Add(std::move(fault));

@@ -2,6 +2,7 @@
 #include "apiwrapper/tables/Classes.h"
 #include "apiwrapper/tables/Events.h"
 #include "simulator/runtime/Wire.h"
+#include "simulator/runtime/door/Faults.h"
 #include "simulator/runtime/door/OrderArguments.h"
 #include "simulator/runtime/door/OrderTable.h"
 #include "simulator/runtime/protocol/Message.h"
@@ -37,6 +38,8 @@ void WriteField(PairWriter& writer, const ZEField& field, const json& value) {
 void Status(Controls& controls, const json&, json& answer) {
   answer["connected"] = controls.session != nullptr;
   answer["frames"] = controls.wire.Frames();
+  answer["longest"] = controls.wire.LongestFrame();
+  answer["faults"] = controls.faults.Waiting();
   if (controls.session == nullptr) return;
   answer["started"] = controls.session->started;
   answer["account"] = controls.session->signIn.Name();

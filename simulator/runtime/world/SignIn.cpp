@@ -62,13 +62,18 @@ Object* SignIn::AccountOf(std::string_view name) {
 
 void SignIn::WithStoredPassword(Object& account) {
   const std::string name = account.GetText(account::kName);
-  const auto password = m_device.StoredPassword(name);
   Begin(
-      account,
-      [this, name, password] {
-        return password ? m_service.SignIn(name, *password) : LogoutReason::NoStoredPassword;
-      },
-      nullptr, true);
+      account, [this, name] { return SignInAsStored(name); }, nullptr, true);
+}
+
+LogoutReason SignIn::SignInAsStored(const std::string& name) {
+  const auto password = m_device.StoredPassword(name);
+  if (!password) return LogoutReason::NoStoredPassword;
+  const LogoutReason reason = m_service.SignIn(name, *password);
+  if (reason != LogoutReason::WrongPassword) return reason;
+  // It was right when it was stored.
+  m_device.ForgetPassword(name);
+  return LogoutReason::PasswordChanged;
 }
 
 void SignIn::WithPassword(Object& account, const std::string& password, bool save) {

@@ -48,6 +48,7 @@ class SignIn {
 
   void Begin(Object& account, Attempt attempt, const std::string* password, bool save);
   void Schedule();
+  LogoutReason SignInAsStored(const std::string& name);
   void SetStatus(int status);
   void Decide(int);
   void LoadAccount(int);

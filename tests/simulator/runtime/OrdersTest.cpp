@@ -115,6 +115,17 @@ TEST_F(TheDoor, SpoilsOnlyTheRepliesThatAnOrderNames) {
   EXPECT_EQ("1", Result(RootMethod::Ping));
 }
 
+TEST_F(TheDoor, LeavesAsManyRepliesWholeFirstAsOrdered) {
+  Order("reply drop method=Zelto.GetVersion after=2");
+  EXPECT_NE("", Ask(RootMethod::GetVersion));
+  EXPECT_EQ("1", Result(RootMethod::Ping));
+  EXPECT_NE("", Ask(RootMethod::GetVersion));
+  EXPECT_EQ(1, Order("status")["faults"]);
+  EXPECT_EQ("", Ask(RootMethod::GetVersion));
+  EXPECT_EQ(0, Order("status")["faults"]);
+  EXPECT_NE("", Ask(RootMethod::GetVersion));
+}
+
 TEST_F(TheDoor, DelaysAReplyAndGarblesItTheSameForTheSameSeed) {
   Order("reply delay milliseconds=500");
   outbox.texts.clear();

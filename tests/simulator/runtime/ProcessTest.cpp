@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <stdlib.h>
+#include <sys/shm.h>
 #include <sys/wait.h>
 
 #include <ctime>
@@ -8,6 +10,7 @@
 #include <fstream>
 #include <nlohmann/json.hpp>
 
+#include "shmipc/shmipc.h"
 #include "tests/simulator/runtime/RuntimeProcess.h"
 
 namespace simulator {
@@ -15,6 +18,8 @@ namespace {
 
 using nlohmann::json;
 using test::Client;
+using ::testing::IsEmpty;
+using ::testing::Not;
 using ::testing::StartsWith;
 
 constexpr char kStart[] = "1465 1986 1482=\"1\" 1553=\"10070/1.0.0.0/\" 1830=\"1.10\"";
@@ -181,6 +186,52 @@ TEST_F(TheRuntime, FreezesUntilItIsWokenUp) {
   EXPECT_TRUE(WIFSTOPPED(status));
   runtime.Signal(SIGCONT);
   EXPECT_EQ("#1 b 0=\"1\"", engine.NextFrame());
+}
+
+TEST_F(TheRuntime, OutlivesItsDatabase) {
+  runtime.Start();
+  Client engine(runtime.Socket());
+  EXPECT_EQ("b 0=\"\"", SettingOf(engine, "*UI/Pan"));
+  std::filesystem::remove_all(runtime.home / ".Zelto");
+  for (int i = 0; i < 5; ++i) {
+    engine.Tell("a 1165 1549 1887=\"*UI/Pan\" 1667=\"" + std::to_string(i) + "\"");
+    EXPECT_THAT(SettingOf(engine, "*UI/Pan"), Not(IsEmpty()));
+  }
+  EXPECT_EQ("b ", engine.Ask(kStop));
+  EXPECT_EQ(0, runtime.Wait());
+  runtime.Start();
+  Client next(runtime.Socket());
+  EXPECT_EQ("b 0=\"\"", SettingOf(next, "*UI/Pan"));
+}
+
+struct ChannelEnd {
+  SHMIPC_channel_t* (*open)(int create);
+  int (*initialize)(SHMIPC_channel_t* channel);
+};
+
+TEST_F(TheRuntime, TakesTheOtherEndsOfTheChannelsAfterTheStart) {
+  constexpr ChannelEnd kEnds[] = {{SHMIPC_open_audio_in_channel, SHMIPC_initialize_receiver},
+                                  {SHMIPC_open_audio_out_channel, SHMIPC_initialize_sender},
+                                  {SHMIPC_open_video_in_channel, SHMIPC_initialize_receiver},
+                                  {SHMIPC_open_video_out_channel, SHMIPC_initialize_sender}};
+  setenv("ZELTO_DEVICE_ROOT", runtime.home.Path().c_str(), 1);
+  std::filesystem::create_directories(runtime.home / "tmp");
+  std::vector<SHMIPC_channel_t*> channels;
+  for (const ChannelEnd& end : kEnds) {
+    channels.push_back(end.open(1));
+    ASSERT_NE(nullptr, channels.back());
+    EXPECT_EQ(0, end.initialize(channels.back()));
+  }
+  unsetenv("ZELTO_DEVICE_ROOT");
+  EXPECT_EQ(-4, SHMIPC_wait_for_connection(channels[0], 0));
+  runtime.Start();
+  Client engine(runtime.Socket());
+  EXPECT_EQ("b 0=\"1211\"", engine.Ask(kStart));
+  for (SHMIPC_channel_t* channel : channels) {
+    EXPECT_EQ(0, SHMIPC_wait_for_connection(channel, 2000));
+    shmctl(channel->segment_id, IPC_RMID, nullptr);
+    SHMIPC_close_channel(channel);
+  }
 }
 
 TEST_F(TheRuntime, RefusesToStartOnWhatItCannotUse) {

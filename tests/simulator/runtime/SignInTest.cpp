@@ -68,6 +68,16 @@ TEST_F(ASignIn, NeedsNoPasswordOnceItIsStored) {
   EXPECT_EQ(static_cast<int>(LogoutReason::NoStoredPassword), Reason(demo));
 }
 
+TEST_F(ASignIn, WithAStoredPasswordThatWasChangedForgetsIt) {
+  Object& demo = SignIn("demo", "demo1234", true);
+  session.signIn.Drop(LogoutReason::Requested);
+  ASSERT_TRUE(service.ChangePassword("demo", "demo1234", "other4you"));
+  Tell(AccountMethod::Login, On(demo));
+  Pass();
+  EXPECT_EQ(static_cast<int>(LogoutReason::PasswordChanged), Reason(demo));
+  EXPECT_EQ(1, Status(demo));
+}
+
 TEST_F(ASignIn, WithoutSavingForgetsAnOlderStoredPassword) {
   SignIn("demo", "demo1234", true);
   SignIn("demo", "demo1234", false);
