@@ -3,6 +3,8 @@
 #pragma once
 
 #include <atomic>
+#include <chrono>
+#include <cstdint>
 #include <string>
 
 #include "tests/support/FastClock.h"
@@ -13,27 +15,53 @@ namespace test {
 
 class ATour : public ATelevision {
  protected:
+  // What the fault that the runtime has been told does to a tour; the less is left of it, the less patience.
+  enum class Damage {
+    None,      // every step gets its answer and its event
+    SomeGone,  // steps may fail, but each returns
+    Hanging,   // once the fault has struck, commands wait for ever
+  };
+
   // Loads, takes every step and unloads. A step's event is waited for as long as the runtime lives and the
   // engine is loaded; a tour whose command hangs is ended from outside, as a television that is switched off.
   // Answers whether every step got its answer and its event.
-  bool Run();
-  // The frames, both directions together, that the runtime counted during the last whole tour.
+  bool Run(Damage damage = Damage::None);
+
+  // What the last tour that was not whole missed first.
+  const std::string& FirstMiss() const { return m_firstMiss; }
+  // Whether every command of the last tour returned by itself.
+  bool Returned() const { return m_returned; }
+  // The frames, both directions together, that the runtime counted during the last tour.
   int Frames() const { return m_frames; }
+  // The bytes of the longest frame that it sent, the length in front included.
+  int LongestFrame() const { return m_longestFrame; }
+  // Whether the fault was yet to strike when the last tour was over; a runtime that has died cannot tell.
+  bool FaultStillWaits() const { return m_faultWaits; }
 
   // Fault-free, after whatever came before: everything works.
   void VerifySurvival();
 
+  // Whether the runtime of the last tour lives.
+  bool IsAlive() const;
+
  private:
   bool TakeSteps(IMoIPEngine& engine);
-  bool Reaches(int event) const;
-  bool IsAlive() const;
+  bool Miss(const std::string& step, const std::string& how);
+  bool Reaches(int event);
+  void AskRuntime();
 
   // Loading waits 6 s for the runtime; on this clock that is a fraction of one.
   FastClock m_clock{40};
-  Watchdog m_watchdog{240};
-  std::atomic<bool> m_switchingOff{false};  // a television that is switched off asks nothing more
+  Watchdog m_watchdog{280};
+  std::atomic<bool> m_switchingOff{false};   // a television that is switched off asks nothing more
+  std::chrono::milliseconds m_wholeTour{0};  // how long the first tour without faults took
+  std::chrono::milliseconds m_longestEvent{0};
   pid_t m_runtime = 0;
+  bool m_returned = false;
   int m_frames = 0;
+  int m_longestFrame = 0;
+  bool m_faultWaits = false;
+  std::string m_firstMiss;
 };
 
 }  // namespace test

@@ -13,8 +13,8 @@ using Census = std::map<std::string, int>;
 
 // Counts this process's threads, open descriptors, children (dead ones not yet reaped included), System V
 // segments that it is attached to or has created, and the files below some folders; at its end it waits
-// until everything is back at what it was, and otherwise fails the test with a list of what is more or less.
-// Threads: one.
+// until everything is back at what it was (threads may be fewer), and otherwise fails the test with a list of
+// what is more or less. Threads: one.
 class SurvivalCheck {
  public:
   explicit SurvivalCheck(std::vector<std::string> folders = {}, int limitMilliseconds = 5000);

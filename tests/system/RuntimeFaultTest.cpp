@@ -19,7 +19,11 @@ namespace {
 // The engine's own promise to a host that ends it.
 constexpr std::chrono::seconds kLongestEnd(8);
 
-bool HasChildren() { return waitpid(-1, nullptr, WNOHANG | WNOWAIT) != -1 || errno != ECHILD; }
+// Living or dead and not yet reaped.
+bool HasChildren() {
+  siginfo_t child;
+  return waitid(P_ALL, 0, &child, WEXITED | WNOHANG | WNOWAIT) == 0 || errno != ECHILD;
+}
 
 class ARuntimeThatFails : public ATelevision {
  protected:

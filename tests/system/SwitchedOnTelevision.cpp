@@ -46,10 +46,14 @@ ATelevision::~ATelevision() {
   unsetenv("ZELHOST_SCENARIO");
 }
 
-void ATelevision::SwitchOn() {
+void ATelevision::SwitchOnWithoutService() {
   m_host.Mark();
   m_library = std::make_unique<television::EngineLibrary>(EngineUnderTest());
   m_host.Attach(m_library->Engine());
+}
+
+void ATelevision::SwitchOn() {
+  SwitchOnWithoutService();
   m_host.StartService(m_library->Engine());
 }
 

@@ -42,7 +42,9 @@ class ATelevision : public ::testing::Test {
   ATelevision();
   ~ATelevision() override;
 
-  // Creates the engine and registers the callbacks, the last of which loads the service.
+  // Creates the engine and registers the callbacks but the last, which would load the service.
+  void SwitchOnWithoutService();
+  // Creates the engine and registers all callbacks, so that the service is being loaded.
   void SwitchOn();
   // The same, and waits until the runtime is ready.
   void SwitchOnAndWait();
