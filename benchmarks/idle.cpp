@@ -4,6 +4,8 @@
 #include <benchmark/benchmark.h>
 #include <sys/resource.h>
 
+#include <algorithm>
+#include <array>
 #include <atomic>
 #include <chrono>
 #include <cstdlib>
@@ -19,12 +21,13 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 
-constexpr auto kWindow = 5s;
+constexpr auto kWindow = 1s;
+constexpr std::size_t kWindows = 9;
 constexpr auto kReadyLimit = 20s;
 
 struct Usage {
   double processor;  // seconds
-  long wakeUps;
+  double wakeUps;
 
   static Usage Now() {
     rusage usage{};
@@ -32,17 +35,25 @@ struct Usage {
     const auto seconds = [](const timeval& time) {
       return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
     };
-    return {seconds(usage.ru_utime) + seconds(usage.ru_stime), usage.ru_nvcsw};
+    return {seconds(usage.ru_utime) + seconds(usage.ru_stime), static_cast<double>(usage.ru_nvcsw)};
   }
 };
 
-void MeasureWindow(benchmark::State& state) {
-  const Usage before = Usage::Now();
-  std::this_thread::sleep_for(kWindow);
-  const Usage after = Usage::Now();
+// The median of the windows, so that a moment in which the machine was busy does not count.
+void MeasureWindows(benchmark::State& state) {
   const double seconds = std::chrono::duration<double>(kWindow).count();
-  state.SetIterationTime((after.processor - before.processor) / seconds);
-  state.counters["wake_ups_per_s"] = static_cast<double>(after.wakeUps - before.wakeUps) / seconds;
+  std::array<Usage, kWindows> windows;
+  for (Usage& window : windows) {
+    const Usage before = Usage::Now();
+    std::this_thread::sleep_for(kWindow);
+    const Usage after = Usage::Now();
+    window = {(after.processor - before.processor) / seconds, (after.wakeUps - before.wakeUps) / seconds};
+  }
+  std::sort(windows.begin(), windows.end(),
+            [](const Usage& left, const Usage& right) { return left.processor < right.processor; });
+  const Usage& median = windows[kWindows / 2];
+  state.SetIterationTime(median.processor);
+  state.counters["wake_ups_per_s"] = median.wakeUps;
 }
 
 void Bare(benchmark::State& state) {
@@ -53,7 +64,7 @@ void Bare(benchmark::State& state) {
       while (!stop) std::this_thread::sleep_for(pause);
     });
   }
-  for (auto _ : state) MeasureWindow(state);
+  for (auto _ : state) MeasureWindows(state);
   stop = true;
   for (std::thread& thread : threads) thread.join();
 }
@@ -86,7 +97,7 @@ void Engine(benchmark::State& state) {
     std::this_thread::sleep_for(50ms);
   }
   if (!CZeltoManager::IsZeltoReady()) state.SkipWithError("the runtime did not come up");
-  for (auto _ : state) MeasureWindow(state);
+  for (auto _ : state) MeasureWindows(state);
   CZeltoManager::Destroy(engine);
 }
 

@@ -64,12 +64,16 @@ void Host::Add(Report report) {
   std::function<void(const Report&)> observer;
   {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_reports.push_back(report);
-    if (m_reports.size() > kMostReports) m_reports.pop_front();
     observer = m_observer;
   }
-  m_arrived.notify_all();
+  // Before whoever waits for the report can act on it, so that what is printed keeps its order.
   if (observer) observer(report);
+  {
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_reports.push_back(std::move(report));
+    if (m_reports.size() > kMostReports) m_reports.pop_front();
+  }
+  m_arrived.notify_all();
 }
 
 bool Host::OnEvent(const CEngineEvent* event, void* user) {

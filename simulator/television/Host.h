@@ -35,7 +35,7 @@ class Host {
   // Registers the data callback, with which the engine loads the service.
   void StartService(IMoIPEngine& engine);
 
-  // Called on the engine's thread for each report, after it was queued; must only print or signal.
+  // Called on the engine's thread for each report, before it can be waited for; must only print or signal.
   void SetObserver(std::function<void(const Report&)> observer);
 
   // Waits for a report that fulfils the condition among those that arrived since the last mark, and sets

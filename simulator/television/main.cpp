@@ -23,6 +23,7 @@ struct Options {
   std::string runtime;
   std::string deviceRoot;
   std::string script;
+  std::string log;
   bool tour = false;
 };
 
@@ -42,6 +43,9 @@ void RunScript(television::Session& session, const std::string& path) {
 }
 
 int Run(const Options& options) {
+  if (!options.log.empty() && std::freopen(options.log.c_str(), "w", stderr) == nullptr) {
+    throw std::runtime_error("can't write the log " + options.log);
+  }
   television::DeviceRoot root(options.deviceRoot);
   root.Furnish(options.runtime);
   setenv("ZELTO_DEVICE_ROOT", root.Path().c_str(), 1);
@@ -81,12 +85,13 @@ int main(int argc, char** argv) {
   app.add_option("--device-root", options.deviceRoot,
                  "folder of the television's files; a temporary one by default");
   app.add_option("--script", options.script, "runs the lines of this file, \"-\" for the standard input");
+  app.add_option("--log", options.log, "file for what engine and runtime write to standard error");
   app.add_flag("--tour", options.tour, "shows a short tour first");
   CLI11_PARSE(app, argc, argv);
   try {
     return Run(options);
   } catch (const std::exception& error) {
-    std::fprintf(stderr, "zelto-tv: %s\n", error.what());
+    std::printf("zelto-tv: %s\n", error.what());
     return EXIT_FAILURE;
   }
 }

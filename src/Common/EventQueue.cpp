@@ -63,20 +63,13 @@ std::size_t EventQueue::Take(CZeltoEvent* events, std::size_t room) {
   // The run of due events may be taken at once: nobody else takes, and what is sent meanwhile goes to the
   // back in any case.
   std::size_t taken = 0;
-  while (taken < room && !m_entries.empty() && !IsDelayed(m_entries.front())) events[taken++] = PopFront();
+  while (taken < room && !m_entries.empty() && !IsDelayed(m_entries.front())) {
+    const Entry& entry = m_entries.front();
+    events[taken++] = {entry.type, entry.param, Remainder(entry.delay)};
+    m_entries.pop_front();
+  }
   NoteSize();
   return taken;
-}
-
-// The tick wraps around after more than a year; delays are far shorter than half of that.
-bool EventQueue::IsDelayed(const Entry& entry) const {
-  return entry.delay > 0 && static_cast<std::int32_t>(entry.due - m_tick.load(std::memory_order_relaxed)) > 0;
-}
-
-CZeltoEvent EventQueue::PopFront() {
-  const Entry entry = m_entries.front();
-  m_entries.pop_front();
-  return {entry.type, entry.param, Remainder(entry.delay)};
 }
 
 }  // namespace zelto

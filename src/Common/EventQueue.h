@@ -50,8 +50,11 @@ class EventQueue {
     std::uint32_t due;  // for a delayed event: the tick at which its delay is used up
   };
 
-  bool IsDelayed(const Entry& entry) const ZELTO_REQUIRES(m_lock);
-  CZeltoEvent PopFront() ZELTO_REQUIRES(m_lock);
+  // The tick wraps around after more than a year; delays are far shorter than half of that.
+  bool IsDelayed(const Entry& entry) const {
+    return entry.delay > 0 &&
+           static_cast<std::int32_t>(entry.due - m_tick.load(std::memory_order_relaxed)) > 0;
+  }
   void NoteSize() ZELTO_REQUIRES(m_lock) { m_size.store(m_entries.size(), std::memory_order_relaxed); }
 
   Mutex m_lock{LockRank::Queue, "event queue"};

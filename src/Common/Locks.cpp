@@ -59,30 +59,13 @@ void NoteUnlocked(LockRank rank, const char* name) {
   }
 }
 
-#else
-
-void NoteLockWanted(LockRank, const char*) {}
-void NoteLocked(LockRank, const char*) {}
-void NoteUnlocked(LockRank, const char*) {}
-
 #endif
-
-void Mutex::Lock() {
-  NoteLockWanted(m_rank, m_name);
-  pthread_mutex_lock(&m_mutex);
-  NoteLocked(m_rank, m_name);
-}
 
 bool Mutex::LockWithin(std::int64_t nanoseconds) {
   NoteLockWanted(m_rank, m_name);
   if (System().LockMutex(&m_mutex, nanoseconds) != 0) return false;
   NoteLocked(m_rank, m_name);
   return true;
-}
-
-void Mutex::Unlock() {
-  NoteUnlocked(m_rank, m_name);
-  pthread_mutex_unlock(&m_mutex);
 }
 
 void Condition::Wait(Mutex& mutex) { pthread_cond_wait(&m_condition, mutex.Native()); }

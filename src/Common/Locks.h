@@ -23,9 +23,15 @@ enum class LockRank {
 // Rank bookkeeping of the calling thread; empty without ZELTO_DEBUG_LOCKS. For lock classes only.
 // NoteLockWanted is called before waiting, NoteLocked once held. A recursive lock notes its outermost
 // level only. `name` must live as long as it is noted.
+#ifdef ZELTO_DEBUG_LOCKS
 void NoteLockWanted(LockRank rank, const char* name);
 void NoteLocked(LockRank rank, const char* name);
 void NoteUnlocked(LockRank rank, const char* name);
+#else
+inline void NoteLockWanted(LockRank, const char*) {}
+inline void NoteLocked(LockRank, const char*) {}
+inline void NoteUnlocked(LockRank, const char*) {}
+#endif
 
 // A non-recursive mutex. `name` must live as long as the mutex; it appears in diagnoses.
 // Threads: any; unlocked by the thread that locked it.
@@ -36,8 +42,21 @@ class ZELTO_CAPABILITY("mutex") Mutex {
   Mutex& operator=(const Mutex&) = delete;
   ~Mutex() { pthread_mutex_destroy(&m_mutex); }
 
-  void Lock() ZELTO_ACQUIRE();
-  void Unlock() ZELTO_RELEASE();
+  void Lock() ZELTO_ACQUIRE() {
+    NoteLockWanted(m_rank, m_name);
+    pthread_mutex_lock(&m_mutex);
+    NoteLocked(m_rank, m_name);
+  }
+  void Unlock() ZELTO_RELEASE() {
+    NoteUnlocked(m_rank, m_name);
+    pthread_mutex_unlock(&m_mutex);
+  }
+  // False when another thread holds it.
+  bool TryLock() ZELTO_TRY_ACQUIRE(true) {
+    if (pthread_mutex_trylock(&m_mutex) != 0) return false;
+    NoteLocked(m_rank, m_name);
+    return true;
+  }
   // False, without the lock, when it could not be had within that time. 0 or less does not wait.
   bool LockWithin(std::int64_t nanoseconds) ZELTO_TRY_ACQUIRE(true);
   pthread_mutex_t* Native() { return &m_mutex; }  // for condition variables

@@ -24,19 +24,25 @@ using zelto::Guard;
 using zelto::HostControl;
 
 std::atomic<CZeltoManager*> CZeltoManager::s_instance{nullptr};
-std::atomic<bool> CZeltoManager::s_ended{false};
+std::atomic<bool> CZeltoManager::s_created{false};
 std::atomic<CZeltoManagerImp*> CZeltoManager::s_imp{nullptr};
 std::atomic<bool> CZeltoManager::s_serviceEnded{false};
 std::atomic<bool> CZeltoManager::s_widgetStarted{false};
 
 namespace {
 
-// One engine is made or ended at a time. Its holder waits for the event thread, which has been asked to
-// stop, so the lock stands outside the order.
-zelto::Mutex& LifeLock() {
-  static zelto::Mutex* const lock = new zelto::Mutex(zelto::LockRank::Unranked, "engine life");
-  return *lock;
-}
+// One engine is made or ended at a time. The lock is held for moments only: whoever ends an engine waits for
+// threads that may look for it meanwhile.
+struct Life {
+  zelto::Mutex lock{zelto::LockRank::Unranked, "engine life"};
+  zelto::Condition ended;
+  bool ending ZELTO_GUARDED_BY(lock) = false;
+
+  static Life& Get() {
+    static Life* const life = new Life;
+    return *life;
+  }
+};
 
 // The last widget parameter; it outlives the engine like everything that late threads may ask for.
 struct WidgetParameter {
@@ -70,7 +76,7 @@ void Deliver(int type, const char* p1, const char* p2) {
 
 CZeltoManager* CZeltoManager::GetInstance() noexcept {
   CZeltoManager* manager = s_instance.load(std::memory_order_acquire);
-  return manager != nullptr || s_ended ? manager : Make(false);
+  return manager != nullptr || s_created ? manager : Make(false);
 }
 
 CZeltoManager* CZeltoManager::Create() noexcept {
@@ -80,14 +86,15 @@ CZeltoManager* CZeltoManager::Create() noexcept {
 
 CZeltoManager* CZeltoManager::Make(bool again) noexcept {
   return Guard("engine_create", [again]() -> CZeltoManager* {
-    zelto::MutexLock lock(LifeLock());
+    Life& life = Life::Get();
+    zelto::MutexLock lock(life.lock);
+    while (again && life.ending) life.ended.Wait(life.lock);
     CZeltoManager* manager = s_instance.load(std::memory_order_acquire);
-    // Asked once more under the lock: an engine may have come and gone since the caller looked.
-    if (manager != nullptr || (s_ended && !again)) return manager;
+    if (manager != nullptr || (s_created && !again)) return manager;
     manager = new CZeltoManager;
     s_serviceEnded = false;
     s_instance.store(manager, std::memory_order_release);
-    s_ended = false;
+    s_created = true;
     EventQueue::Get().Open();
     return manager;
   });
@@ -95,12 +102,19 @@ CZeltoManager* CZeltoManager::Make(bool again) noexcept {
 
 void CZeltoManager::Destroy(IMoIPEngine* engine) noexcept {
   if (engine == nullptr || HostControl::Get().IsReentry("engine_destroy")) return;
-  zelto::MutexLock lock(LifeLock());
-  if (engine != s_instance.load(std::memory_order_acquire)) {
-    ZELTO_FATAL("engine_destroy: %p is no engine\n", static_cast<void*>(engine));
-    return;
+  Life& life = Life::Get();
+  {
+    zelto::MutexLock lock(life.lock);
+    if (life.ending || engine != s_instance.load(std::memory_order_acquire)) {
+      ZELTO_FATAL("engine_destroy: %p is no engine\n", static_cast<void*>(engine));
+      return;
+    }
+    life.ending = true;
   }
   delete engine;
+  zelto::MutexLock lock(life.lock);
+  life.ending = false;
+  life.ended.NotifyAll();
 }
 
 CZeltoManager::CZeltoManager() {
@@ -127,7 +141,6 @@ CZeltoManager::~CZeltoManager() noexcept {
   EventQueue::Get().Close();
   EventHandlers::Get().Clear();
   ZELTO_DEBUG("CZeltoManager::Destructor 5");
-  s_ended = true;
   ZELTO_DEBUG("CZeltoManager::Destructor 6");
   s_instance.store(nullptr, std::memory_order_release);
   ZELTO_DEBUG("CZeltoManager::Destructor Done");

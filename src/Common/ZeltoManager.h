@@ -163,7 +163,7 @@ class CZeltoManager final : public IMoIPEngine, public EngineEventTypes {
   zelto::EventThread m_eventThread;
 
   static std::atomic<CZeltoManager*> s_instance;
-  static std::atomic<bool> s_ended;  // there was an engine, and no other has been created since
+  static std::atomic<bool> s_created;  // there is or was an engine
   static std::atomic<CZeltoManagerImp*> s_imp;
   static std::atomic<bool> s_serviceEnded;  // no service host may be created any more
   static std::atomic<bool> s_widgetStarted;

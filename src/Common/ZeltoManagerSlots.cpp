@@ -4,6 +4,7 @@
 #include "Common/HostQueries.h"
 #include "Common/Log.h"
 #include "Common/ZeltoManager.h"
+#include "zelhost/ServiceHostMutex.h"
 
 using zelto::Guard;
 using zelto::HostControl;
@@ -13,6 +14,8 @@ const char* CZeltoManager::Execute(const char* cmd, const char* p1, const char* 
                                    const char* p4) noexcept {
   HostControl::Get().IsReentry("Execute");
   const char* answer = Guard("Execute", [&]() -> const char* {
+    // Held from before the look-up, so that the service host can't be deleted between the two.
+    zelhost::ServiceHostLock lock("Execute");
     CZeltoManagerImp* imp = GetZeltoManagerImp();
     return imp != nullptr ? imp->Execute(cmd, p1, p2, p3, p4) : nullptr;
   });

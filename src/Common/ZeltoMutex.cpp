@@ -53,6 +53,12 @@ bool CZeltoMutex::Lock() {
   return BecomeOwner();
 }
 
+bool CZeltoMutex::TryLock() {
+  if (!m_created.load()) return SayNotCreated();
+  if (IsHolder()) return TakeAgain();
+  return m_lock.TryLock() && BecomeOwner();
+}
+
 bool CZeltoMutex::LockWithin(int milliseconds) {
   if (!m_created.load()) return SayNotCreated();
   if (IsHolder()) return TakeAgain();

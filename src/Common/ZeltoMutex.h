@@ -31,6 +31,8 @@ class CZeltoMutex {
 
   // Waits as long as it takes. False when it is not created.
   bool Lock() ZELTO_NO_THREAD_SAFETY_ANALYSIS;
+  // False, without waiting, when another thread holds it or it is not created.
+  bool TryLock() ZELTO_NO_THREAD_SAFETY_ANALYSIS;
   // Waits at most that long (0 or less does not wait). False when it is not created or the time ran out.
   bool LockWithin(int milliseconds) ZELTO_NO_THREAD_SAFETY_ANALYSIS;
   // False when it is not created or the caller does not hold it; nothing changes then.

@@ -20,7 +20,7 @@ ServiceHostMutex::ServiceHostMutex() { m_mutex.Create(); }
 // Only the outermost level names the holder: that is the operation which others wait for.
 bool ServiceHostMutex::Take(const char* who, int milliseconds) {
   const bool outermost = !m_mutex.IsOwner();
-  if (!m_mutex.LockWithin(0) && !m_mutex.LockWithin(milliseconds)) return false;
+  if (!m_mutex.TryLock() && !m_mutex.LockWithin(milliseconds)) return false;
   if (outermost) m_holder.store(who, std::memory_order_relaxed);
   return true;
 }

@@ -225,6 +225,24 @@ TEST_F(ARunningEngine, MayBeEndedUnderThreadsThatAreLate) {
   for (std::thread& thread : late) thread.join();
 }
 
+TEST_F(ARunningEngine, MayBeMadeAndEndedByManyThreadsAtOnce) {
+  Destroy();
+  std::vector<std::thread> hosts;
+  std::atomic<int> made{0};
+  for (int i = 0; i < 4; ++i) {
+    hosts.emplace_back([&] {
+      for (int round = 0; round < 20; ++round) {
+        CZeltoManager* mine = CZeltoManager::Create();
+        if (mine != nullptr) ++made;
+        CZeltoManager::Destroy(mine);  // the first one ends it, the others are refused
+      }
+    });
+  }
+  for (std::thread& thread : hosts) thread.join();
+  EXPECT_EQ(made, 80);
+  EXPECT_EQ(CZeltoManager::GetInstance(), nullptr);
+}
+
 TEST_F(ARunningEngine, StartsAfreshAfterEachEnd) {
   CZeltoManager::SetEventHandler(CZeltoManager::CALL_ENDED, &handler);
   handler.onEvent = [](const CZeltoEvent*) { return false; };
