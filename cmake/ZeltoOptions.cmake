@@ -20,4 +20,7 @@ endif()
 if(ZELTO_SANITIZE)
   add_compile_options(-fsanitize=${ZELTO_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
   add_link_options(-fsanitize=${ZELTO_SANITIZE})
+  if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+    add_compile_options(-Wno-maybe-uninitialized)  # instrumented code of <regex> is warned of without cause
+  endif()
 endif()

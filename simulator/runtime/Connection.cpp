@@ -38,7 +38,7 @@ void Connection::Send(std::string_view text) {
 bool Connection::Flush() {
   if (!HasOutput()) return true;
   if (m_output.size() - m_written > kMaxOutput) return false;
-  if (!(m_split > 0 ? FlushSplit() : Write(m_output.size()))) return false;
+  if (!(m_pieces.first > 0 ? FlushSplit() : Write(m_output.size()))) return false;
   if (!HasOutput()) {
     m_output.clear();
     m_written = 0;
@@ -66,14 +66,14 @@ bool Connection::FlushSplit() {
       text = text << 8 | static_cast<unsigned char>(rest[i]);
       length = kFrameHeader + text;
     }
-    const std::size_t frame = std::min(length, rest.size());
-    const std::size_t begin = m_written;
-    const std::size_t middle = begin + std::min(m_split, frame);
-    if (!Write(middle)) return false;
-    if (m_written < middle) return true;
-    if (middle < begin + frame) std::this_thread::sleep_for(kSplitPause);
-    if (!Write(begin + frame)) return false;
-    if (m_written < begin + frame) return true;
+    const std::size_t end = m_written + std::min(length, rest.size());
+    for (std::size_t cut = m_written + m_pieces.first; m_written < end;) {
+      const std::size_t piece = std::min(cut, end);
+      if (!Write(piece)) return false;
+      if (m_written < piece) return true;
+      if (piece < end) std::this_thread::sleep_for(kSplitPause);
+      cut = m_pieces.every > 0 ? cut + m_pieces.every : end;
+    }
   }
   return true;
 }

@@ -10,6 +10,12 @@
 
 namespace simulator {
 
+// Where every frame is cut, in bytes with the length in front counted.
+struct Pieces {
+  std::size_t first = 0;  // the first piece; 0: frames are whole
+  std::size_t every = 0;  // each further piece; 0: the rest is one
+};
+
 // Reads what has arrived, hands over each whole frame, and gathers what is sent meanwhile into one write.
 // Threads: none of its own.
 class Connection {
@@ -38,9 +44,8 @@ class Connection {
   // Something waits until the stream takes more.
   bool HasOutput() const { return m_written < m_output.size(); }
 
-  // From now on every frame is written in two pieces, the first of that many bytes (length included); 0
-  // writes frames whole again. The frames of one write come one by one then.
-  void SplitFrames(std::size_t first) { m_split = first; }
+  // From now on frames come one by one and in pieces.
+  void SplitFrames(const Pieces& pieces) { m_pieces = pieces; }
 
  private:
   bool Write(std::size_t end);
@@ -50,7 +55,7 @@ class Connection {
   FrameReader m_reader;
   std::string m_output;
   std::size_t m_written = 0;
-  std::size_t m_split = 0;
+  Pieces m_pieces;
 };
 
 }  // namespace simulator

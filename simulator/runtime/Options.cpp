@@ -8,6 +8,8 @@
 namespace simulator {
 namespace {
 
+constexpr int kFastestPace = 1000;
+
 std::string FromEnvironment(const char* name, const char* otherwise) {
   const char* value = std::getenv(name);
   return value == nullptr || *value == '\0' ? otherwise : value;
@@ -26,6 +28,10 @@ bool ParseOptions(int argc, char** argv, Options& options, int& status) {
   app.add_flag("-o", "Accepted, as the engine gives it; changes nothing");
   app.add_option("-m,--clock-difference", options.clockDifference, "Seconds to add to this machine's clock");
   app.add_option("--scenario", options.scenario, "File of steps to run (or environment ZELHOST_SCENARIO)");
+  app.add_option("--pace", options.pace,
+                 "Makes its own waits so many times as short (or environment ZELHOST_PACE)")
+      ->envname("ZELHOST_PACE")
+      ->check(CLI::Range(1, kFastestPace));
   app.add_option("--seed", options.seed, "Makes what is random repeatable")->capture_default_str();
   app.add_flag("--decode", options.decode, "Turn frames from standard input into words, and end");
   app.add_flag("-v,--verbose", options.verbose, "Write every frame in words to standard error");

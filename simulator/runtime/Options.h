@@ -12,6 +12,7 @@ struct Options {
   std::string scenario;              // --scenario, else the environment's ZELHOST_SCENARIO; empty for none
   std::int64_t clockDifference = 0;  // seconds
   unsigned seed = 1;
+  int pace = 1;  // its own waits are so many times as short
   bool decode = false;
   bool verbose = false;
   bool keep = false;  // goes on listening when an engine has gone

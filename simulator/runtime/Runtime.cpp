@@ -81,7 +81,7 @@ void Runtime::Run() {
 }
 
 void Runtime::RunSchedulers() {
-  const std::int64_t now = Milliseconds();
+  const std::int64_t now = Now();
   m_scheduler.RunUntil(now);
   if (m_session) m_session->scheduler.RunUntil(now);
 }
@@ -89,9 +89,12 @@ void Runtime::RunSchedulers() {
 std::int64_t Runtime::UntilNext() const {
   const std::int64_t scenario = m_scheduler.UntilNext();
   const std::int64_t session = m_session ? m_session->scheduler.UntilNext() : kLonelyMilliseconds;
-  if (scenario < 0 || session < 0) return std::max(scenario, session);
-  return std::min(scenario, session);
+  const bool one = scenario < 0 || session < 0;
+  const std::int64_t next = one ? std::max(scenario, session) : std::min(scenario, session);
+  return next < 0 ? next : (next + m_options.pace - 1) / m_options.pace;
 }
+
+std::int64_t Runtime::Now() const { return Milliseconds() * m_options.pace; }
 
 void Runtime::AcceptEngine() {
   const int descriptor = m_socket.Accept();
@@ -104,7 +107,7 @@ void Runtime::AcceptEngine() {
   m_wire.Connect(std::make_unique<Connection>(descriptor));
   m_session.emplace(Surroundings{m_service, m_device, m_wire, m_options.clockDifference,
                                  [this] { m_channels.Attach(); }, [this] { m_stopAsked = true; }});
-  m_session->scheduler.RunUntil(Milliseconds());
+  m_session->scheduler.RunUntil(Now());
   m_dispatcher.emplace(*m_session, &m_faults);
   m_dispatcher->Observe([this](const ZEMethod& method) {
     if (!m_scenario.IsOver()) m_scenario.RequestArrived(NameOf(method));

@@ -43,6 +43,7 @@ class Runtime {
   void Disconnect();
   void RunSchedulers();
   std::int64_t UntilNext() const;
+  std::int64_t Now() const;  // the schedulers' time
 
   const Options m_options;
   EventLoop m_loop;

@@ -3,7 +3,6 @@
 #include <unistd.h>
 #include <csignal>
 
-#include <algorithm>
 #include <utility>
 
 #include "simulator/runtime/Log.h"
@@ -12,7 +11,7 @@ namespace simulator {
 
 void Wire::Connect(std::unique_ptr<Connection> connection) {
   m_connection = std::move(connection);
-  m_connection->SplitFrames(m_split);
+  m_connection->SplitFrames(m_pieces);
   m_decoder = Decoder();
 }
 
@@ -20,7 +19,6 @@ void Wire::Send(std::string_view text) {
   if (m_connection == nullptr || m_silent) return;
   if (m_verbose) Log("> " + m_decoder.Words(text));
   m_connection->Send(text);
-  m_longest = std::max(m_longest, kFrameHeader + text.size());
   Count();
 }
 
@@ -37,9 +35,9 @@ void Wire::Count() {
   if (++m_frames == m_lastFrame) Die(m_death, m_status);
 }
 
-void Wire::SplitFrames(std::size_t first) {
-  m_split = first;
-  if (m_connection != nullptr) m_connection->SplitFrames(first);
+void Wire::SplitFrames(const Pieces& pieces) {
+  m_pieces = pieces;
+  if (m_connection != nullptr) m_connection->SplitFrames(pieces);
 }
 
 void Wire::DieAt(std::uint64_t frame, Death death, int status) {
@@ -57,7 +55,7 @@ void Wire::Die(Death death, int status) {
 void Wire::Reset() {
   m_silent = false;
   m_lastFrame = 0;
-  SplitFrames(0);
+  SplitFrames({});
 }
 
 }  // namespace simulator

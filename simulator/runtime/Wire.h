@@ -36,12 +36,10 @@ class Wire : public Outbox {
   bool Flush() { return m_connection == nullptr || m_connection->Flush(); }
 
   std::uint64_t Frames() const { return m_frames; }
-  // The bytes of the longest frame sent, its length included.
-  std::size_t LongestFrame() const { return m_longest; }
   // Swallows everything that is sent from now on.
   void SetSilent(bool silent) { m_silent = silent; }
   // See Connection::SplitFrames; holds for later connections too.
-  void SplitFrames(std::size_t first);
+  void SplitFrames(const Pieces& pieces);
   // The process ends when that many frames have gone through since its start: a received one is not served
   // any more, a sent one has been written.
   void DieAt(std::uint64_t frame, Death death, int status);
@@ -55,9 +53,8 @@ class Wire : public Outbox {
   std::unique_ptr<Connection> m_connection;
   Decoder m_decoder;
   std::uint64_t m_frames = 0;
-  std::size_t m_longest = 0;
   bool m_silent = false;
-  std::size_t m_split = 0;
+  Pieces m_pieces;
   std::uint64_t m_lastFrame = 0;
   Death m_death = Death::Exit;
   int m_status = 0;

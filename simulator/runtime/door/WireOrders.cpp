@@ -84,7 +84,10 @@ void Silence(Controls& controls, const json& order, json&) {
 }
 
 void Split(Controls& controls, const json& order, json&) {
-  controls.wire.SplitFrames(order.at("byte").get<std::uint16_t>());
+  Pieces pieces;
+  pieces.first = order.at("byte").get<std::uint16_t>();
+  pieces.every = order.value("every", std::uint16_t{0});
+  controls.wire.SplitFrames(pieces);
 }
 
 void Freeze(Controls&, const json& order, json&) {

@@ -38,7 +38,6 @@ void WriteField(PairWriter& writer, const ZEField& field, const json& value) {
 void Status(Controls& controls, const json&, json& answer) {
   answer["connected"] = controls.session != nullptr;
   answer["frames"] = controls.wire.Frames();
-  answer["longest"] = controls.wire.LongestFrame();
   answer["faults"] = controls.faults.Waiting();
   if (controls.session == nullptr) return;
   answer["started"] = controls.session->started;
