@@ -1,273 +1,134 @@
-// Every method of every class and every service-wide request, beside its row. Texts, numbers and flags tell
-// the place of their argument: "text1", 1 or -1, and true for even places.
+// Every method of every class and every service-wide request, in the order of the protocol's rows, called
+// with arguments that tell their place: "text1", 1, the first enumerator, and true for even places.
 #pragma once
+
+#include <tuple>
+#include <type_traits>
+#include <utility>
 
 #include "apiwrapper/tables/ClassMethods.h"
 #include "apiwrapper/tables/RootMethods.h"
 #include "tests/apiwrapper/ProxyFixture.h"
 
-// Where the calls below put their further results.
-struct Results {
-  ZEString text;
-  ZEStringList texts;
-  ZEPtrVector objects;
-  int number = 0;
-  unsigned int unsignedNumber = 0;
-  Contact::PROPERTY property = Contact::PROPERTY(0);
-};
+template <class Class>
+Class& proxyOf(Proxies& p) {
+  if constexpr (std::is_same_v<Class, Zelto>) {
+    return p.root;
+  } else {
+    return std::get<Class&>(p.all);
+  }
+}
 
-struct MethodCall {
-  const ZEMethod* row;
-  void (*make)(Proxies& p, Results& out);
-};
+template <class Value>
+Value argumentOf(Proxies& p, std::size_t place) {
+  if constexpr (std::is_same_v<Value, ZEString>) {
+    return ("text" + std::to_string(place)).c_str();
+  } else if constexpr (std::is_same_v<Value, ZEStringList>) {
+    return textsOf({"a", "b"});
+  } else if constexpr (std::is_same_v<Value, ZEPtrVector>) {
+    return objectsOf({&p.account});
+  } else if constexpr (std::is_same_v<Value, bool>) {
+    return place % 2 == 0;
+  } else if constexpr (std::is_enum_v<Value>) {
+    return Value(1);
+  } else if constexpr (std::is_pointer_v<Value>) {
+    return &proxyOf<std::remove_pointer_t<Value>>(p);
+  } else {
+    return static_cast<Value>(place);
+  }
+}
 
-inline ZEString bytes() { return ZEString::from("\0,", 2); }  // \0\, when escaped once
+// Whether a text or list that was passed for results came back empty.
+template <class Argument>
+bool isEmptied([[maybe_unused]] const std::decay_t<Argument>& value) {
+  if constexpr (std::is_same_v<Argument, ZEString&>) return value.isNull();
+  if constexpr (std::is_same_v<Argument, ZEStringList&> || std::is_same_v<Argument, ZEPtrVector&>) {
+    return value.size() == 0;
+  }
+  return true;
+}
 
-// clang-format off
-inline constexpr MethodCall ALL_CALLS[] = {
-    {&AccountMethod::Login, [](Proxies& p, Results&) { p.account.Login(); }},
-    {&AccountMethod::LoginWithPassword, [](Proxies& p, Results&) { p.account.LoginWithPassword("text0", false); }},
-    {&AccountMethod::Register, [](Proxies& p, Results&) { p.account.Register("text0", false, "text2", false); }},
-    {&AccountMethod::SubmitUICRequestResponse, [](Proxies& p, Results&) { p.account.SubmitUICRequestResponse(bytes()); }},
-    {&AccountMethod::Logout, [](Proxies& p, Results&) { p.account.Logout(true); }},
-    {&AccountMethod::ChangePassword, [](Proxies& p, Results&) { p.account.ChangePassword("text0", "text1", true); }},
-    {&AccountMethod::CancelServerCommit, [](Proxies& p, Results&) { p.account.CancelServerCommit(); }},
-    {&AccountMethod::SetAvailability, [](Proxies& p, Results&) { p.account.SetAvailability(Account::AVAILABILITY(1)); }},
-    {&AccountMethod::GetZeltonameHash, [](Proxies& p, Results&) { p.account.GetZeltonameHash(); }},
-    {&AccountMethod::GetCapabilityStatus, [](Proxies& p, Results& out) { p.account.GetCapabilityStatus(Contact::CAPABILITY(1), out.number); }},
-    {&AccountMethod::GetContact, [](Proxies& p, Results&) { p.account.GetContact(); }},
-    {&AccountMethod::CreateSignedToken, [](Proxies& p, Results&) { p.account.CreateSignedToken("text0"); }},
-    {&AlertMethod::MarkSeen, [](Proxies& p, Results&) { p.alert.MarkSeen(); }},
-    {&AlertMethod::Delete, [](Proxies& p, Results&) { p.alert.Delete(); }},
-    {&App2AppMethod::Delete, [](Proxies& p, Results&) { p.app2App.Delete(); }},
-    {&App2AppMethod::Connect, [](Proxies& p, Results&) { p.app2App.Connect("text1"); }},
-    {&App2AppMethod::Disconnect, [](Proxies& p, Results&) { p.app2App.Disconnect("text1"); }},
-    {&App2AppMethod::Write, [](Proxies& p, Results&) { p.app2App.Write("text1", bytes()); }},
-    {&App2AppMethod::Datagram, [](Proxies& p, Results&) { p.app2App.Datagram("text1", bytes()); }},
-    {&App2AppMethod::Read, [](Proxies& p, Results& out) { p.app2App.Read("text1", out.text); }},
-    {&CallMethod::Mute, [](Proxies& p, Results&) { p.call.Mute(true); }},
-    {&CallMethod::SetTopic, [](Proxies& p, Results&) { p.call.SetTopic("text0"); }},
-    {&CallMethod::SetAccessToken, [](Proxies& p, Results&) { p.call.SetAccessToken("text0"); }},
-    {&CallMethod::Ring, [](Proxies& p, Results&) { p.call.Ring("text0", false); }},
-    {&CallMethod::LeaveVoicemail, [](Proxies& p, Results&) { p.call.LeaveVoicemail("text0"); }},
-    {&CallMethod::Assimilate, [](Proxies& p, Results&) { p.call.Assimilate(&p.call); }},
-    {&CallMethod::RequestMike, [](Proxies& p, Results&) { p.call.RequestMike(true); }},
-    {&CallMethod::GrantMike, [](Proxies& p, Results&) { p.call.GrantMike(true); }},
-    {&CallMethod::GetMembers, [](Proxies& p, Results&) { p.call.GetMembers(); }},
-    {&CallMethod::Delete, [](Proxies& p, Results&) { p.call.Delete(); }},
-    {&CallMethod::End, [](Proxies& p, Results&) { p.call.End(CallMember::ENDACTION(1)); }},
-    {&CallMethod::Hold, [](Proxies& p, Results&) { p.call.Hold(true); }},
-    {&CallMethod::CanHold, [](Proxies& p, Results&) { p.call.CanHold(); }},
-    {&CallMethod::CanResume, [](Proxies& p, Results&) { p.call.CanResume(); }},
-    {&CallMethod::MarkSeen, [](Proxies& p, Results&) { p.call.MarkSeen(); }},
-    {&CallMethod::MarkUnseen, [](Proxies& p, Results&) { p.call.MarkUnseen(); }},
-    {&CallMethod::PlayAndSendDTMF, [](Proxies& p, Results&) { p.call.PlayAndSendDTMF(CallMember::DTMF(1)); }},
-    {&CallMemberMethod::Answer, [](Proxies& p, Results&) { p.callMember.Answer(); }},
-    {&CallMemberMethod::Hold, [](Proxies& p, Results&) { p.callMember.Hold(true); }},
-    {&CallMemberMethod::GrantMike, [](Proxies& p, Results&) { p.callMember.GrantMike(true); }},
-    {&CallMemberMethod::SkipVoicemailGreeting, [](Proxies& p, Results&) { p.callMember.SkipVoicemailGreeting(); }},
-    {&CallMemberMethod::SetVoicemailOrigin, [](Proxies& p, Results&) { p.callMember.SetVoicemailOrigin("text0"); }},
-    {&CallMemberMethod::End, [](Proxies& p, Results&) { p.callMember.End(CallMember::ENDACTION(1)); }},
-    {&CallMemberMethod::Transfer, [](Proxies& p, Results&) { p.callMember.Transfer("text0", "text1"); }},
-    {&CallMemberMethod::CanTransfer, [](Proxies& p, Results&) { p.callMember.CanTransfer("text0"); }},
-    {&CallMemberMethod::GetSendVideo, [](Proxies& p, Results&) { p.callMember.GetSendVideo(); }},
-    {&CallMemberMethod::GetRecvVideo, [](Proxies& p, Results&) { p.callMember.GetRecvVideo(); }},
-    {&CallMemberMethod::Redial, [](Proxies& p, Results&) { p.callMember.Redial(true, "text1"); }},
-    {&CallMemberMethod::SetMissed, [](Proxies& p, Results&) { p.callMember.SetMissed(); }},
-    {&ChatMethod::GetJoinBlob, [](Proxies& p, Results&) { p.chat.GetJoinBlob(); }},
-    {&ChatMethod::Join, [](Proxies& p, Results&) { p.chat.Join(); }},
-    {&ChatMethod::SetPassword, [](Proxies& p, Results&) { p.chat.SetPassword("text0", "text1"); }},
-    {&ChatMethod::EnterPassword, [](Proxies& p, Results&) { p.chat.EnterPassword("text0"); }},
-    {&ChatMethod::AcceptAdd, [](Proxies& p, Results&) { p.chat.AcceptAdd(); }},
-    {&ChatMethod::AddMembers, [](Proxies& p, Results&) { p.chat.AddMembers(textsOf({"a", "b"})); }},
-    {&ChatMethod::SetPicture, [](Proxies& p, Results&) { p.chat.SetPicture(bytes()); }},
-    {&ChatMethod::GetPicture, [](Proxies& p, Results&) { p.chat.GetPicture(); }},
-    {&ChatMethod::GetRecentMessages, [](Proxies& p, Results& out) { p.chat.GetRecentMessages(out.objects, out.objects); }},
-    {&ChatMethod::ClearRecentMessages, [](Proxies& p, Results&) { p.chat.ClearRecentMessages(); }},
-    {&ChatMethod::GetUnsentMessages, [](Proxies& p, Results& out) { p.chat.GetUnsentMessages(out.objects); }},
-    {&ChatMethod::SetOptions, [](Proxies& p, Results&) { p.chat.SetOptions(-0); }},
-    {&ChatMethod::Say, [](Proxies& p, Results&) { p.chat.Say("text0", false); }},
-    {&ChatMethod::SetTopic, [](Proxies& p, Results&) { p.chat.SetTopic("text0", false); }},
-    {&ChatMethod::SetGuidelines, [](Proxies& p, Results&) { p.chat.SetGuidelines("text0", false); }},
-    {&ChatMethod::KickMember, [](Proxies& p, Results&) { p.chat.KickMember("text0", "text1"); }},
-    {&ChatMethod::PostContacts, [](Proxies& p, Results&) { p.chat.PostContacts(objectsOf({&p.contact})); }},
-    {&ChatMethod::PostFiles, [](Proxies& p, Results&) { p.chat.PostFiles(textsOf({"a", "b"}), "text1"); }},
-    {&ChatMethod::ReportMyActivities, [](Proxies& p, Results&) { p.chat.ReportMyActivities(ChatMember::ACTIVITY(1)); }},
-    {&ChatMethod::Leave, [](Proxies& p, Results&) { p.chat.Leave(Chat::LEAVEREASON(1)); }},
-    {&ChatMethod::Disband, [](Proxies& p, Results&) { p.chat.Disband(); }},
-    {&ChatMethod::SetBookmark, [](Proxies& p, Results&) { p.chat.SetBookmark(true); }},
-    {&ChatMethod::SetAlertString, [](Proxies& p, Results&) { p.chat.SetAlertString("text0"); }},
-    {&ChatMethod::Delete, [](Proxies& p, Results&) { p.chat.Delete(); }},
-    {&ChatMethod::GetMembers, [](Proxies& p, Results&) { p.chat.GetMembers(); }},
-    {&ChatMemberMethod::CanSetRoleTo, [](Proxies& p, Results&) { p.chatMember.CanSetRoleTo(ChatMember::ROLE(1)); }},
-    {&ChatMemberMethod::SetRoleTo, [](Proxies& p, Results&) { p.chatMember.SetRoleTo(ChatMember::ROLE(1)); }},
-    {&ChatMessageMethod::IsEditable, [](Proxies& p, Results&) { p.chatMessage.IsEditable(); }},
-    {&ChatMessageMethod::Edit, [](Proxies& p, Results&) { p.chatMessage.Edit("text0", false); }},
-    {&ChatMessageMethod::MarkRead, [](Proxies& p, Results&) { p.chatMessage.MarkRead(); }},
-    {&ChatMessageMethod::GetContacts, [](Proxies& p, Results& out) { p.chatMessage.GetContacts(out.objects); }},
-    {&ContactMethod::IsMemberOf, [](Proxies& p, Results&) { p.contact.IsMemberOf(&p.contactGroup); }},
-    {&ContactMethod::GiveAuthLevel, [](Proxies& p, Results&) { p.contact.GiveAuthLevel(Contact::AUTHLEVEL(1)); }},
-    {&ContactMethod::GiveDisplayName, [](Proxies& p, Results&) { p.contact.GiveDisplayName("text0"); }},
-    {&ContactMethod::AssignSpeedDial, [](Proxies& p, Results&) { p.contact.AssignSpeedDial("text0"); }},
-    {&ContactMethod::SetBuddyStatus, [](Proxies& p, Results&) { p.contact.SetBuddyStatus(true); }},
-    {&ContactMethod::SendAuthRequest, [](Proxies& p, Results&) { p.contact.SendAuthRequest("text0"); }},
-    {&ContactMethod::HasCapability, [](Proxies& p, Results&) { p.contact.HasCapability(Contact::CAPABILITY(1), false); }},
-    {&ContactMethod::RefreshProfile, [](Proxies& p, Results&) { p.contact.RefreshProfile(); }},
-    {&ContactMethod::HasAuthorizedMe, [](Proxies& p, Results&) { p.contact.HasAuthorizedMe(); }},
-    {&ContactMethod::GetAvatar, [](Proxies& p, Results&) { p.contact.GetAvatar(); }},
-    {&ContactMethod::SetPhoneNumber, [](Proxies& p, Results&) { p.contact.SetPhoneNumber(0u, "text1", "text2"); }},
-    {&ContactGroupMethod::GetContacts, [](Proxies& p, Results&) { p.contactGroup.GetContacts(); }},
-    {&ContactGroupMethod::GiveDisplayName, [](Proxies& p, Results&) { p.contactGroup.GiveDisplayName("text0"); }},
-    {&ContactGroupMethod::CanAddContact, [](Proxies& p, Results&) { p.contactGroup.CanAddContact(&p.contact); }},
-    {&ContactGroupMethod::AddContact, [](Proxies& p, Results&) { p.contactGroup.AddContact(&p.contact); }},
-    {&ContactGroupMethod::CanRemoveContact, [](Proxies& p, Results&) { p.contactGroup.CanRemoveContact(); }},
-    {&ContactGroupMethod::RemoveContact, [](Proxies& p, Results&) { p.contactGroup.RemoveContact(&p.contact); }},
-    {&ContactGroupMethod::Delete, [](Proxies& p, Results&) { p.contactGroup.Delete(true); }},
-    {&ContactSearchMethod::Extend, [](Proxies& p, Results&) { p.contactSearch.Extend(); }},
-    {&ContactSearchMethod::Release, [](Proxies& p, Results&) { p.contactSearch.Release(); }},
-    {&ContactSearchMethod::GetResults, [](Proxies& p, Results& out) { p.contactSearch.GetResults(-0, -1, out.objects); }},
-    {&PriceQuoteMethod::GetReferredObject, [](Proxies& p, Results&) { p.priceQuote.GetReferredObject(); }},
-    {&PriceQuoteMethod::Accept, [](Proxies& p, Results&) { p.priceQuote.Accept(); }},
-    {&PriceQuoteMethod::Reject, [](Proxies& p, Results&) { p.priceQuote.Reject(); }},
-    {&SearchMethod::Extend, [](Proxies& p, Results&) { p.search.Extend(); }},
-    {&SearchMethod::Release, [](Proxies& p, Results&) { p.search.Release(); }},
-    {&SearchMethod::GetResults, [](Proxies& p, Results& out) { p.search.GetResults(-0, -1, out.objects); }},
-    {&SmsMethod::GetTargetStatus, [](Proxies& p, Results&) { p.sms.GetTargetStatus("text0"); }},
-    {&SmsMethod::SetReplyTo, [](Proxies& p, Results&) { p.sms.SetReplyTo("text0"); }},
-    {&SmsMethod::SetTargets, [](Proxies& p, Results&) { p.sms.SetTargets(textsOf({"a", "b"})); }},
-    {&SmsMethod::SetBody, [](Proxies& p, Results& out) { p.sms.SetBody("text0", out.texts, out.unsignedNumber); }},
-    {&SmsMethod::GetBodyChunks, [](Proxies& p, Results& out) { p.sms.GetBodyChunks(out.texts, out.unsignedNumber); }},
-    {&SmsMethod::Send, [](Proxies& p, Results&) { p.sms.Send(); }},
-    {&SmsMethod::MarkSeen, [](Proxies& p, Results&) { p.sms.MarkSeen(); }},
-    {&SmsMethod::Delete, [](Proxies& p, Results&) { p.sms.Delete(); }},
-    {&SmsMethod::SetConfirmationType, [](Proxies& p, Results&) { p.sms.SetConfirmationType(Sms::CONFIRMTYPE(1)); }},
-    {&TransferMethod::Accept, [](Proxies& p, Results&) { p.transfer.Accept("text0"); }},
-    {&TransferMethod::Pause, [](Proxies& p, Results&) { p.transfer.Pause(); }},
-    {&TransferMethod::Resume, [](Proxies& p, Results&) { p.transfer.Resume(); }},
-    {&TransferMethod::Cancel, [](Proxies& p, Results&) { p.transfer.Cancel(); }},
-    {&TransferMethod::Delete, [](Proxies& p, Results&) { p.transfer.Delete(); }},
-    {&VideoMethod::SetScreen, [](Proxies& p, Results&) { p.video.SetScreen(-0, "text1"); }},
-    {&VideoMethod::Start, [](Proxies& p, Results&) { p.video.Start(); }},
-    {&VideoMethod::Stop, [](Proxies& p, Results&) { p.video.Stop(); }},
-    {&VideoMethod::CaptureImage, [](Proxies& p, Results& out) { p.video.CaptureImage(out.text, out.unsignedNumber, out.unsignedNumber); }},
-    {&VoicemailMethod::StartRecording, [](Proxies& p, Results&) { p.voicemail.StartRecording(); }},
-    {&VoicemailMethod::StopRecording, [](Proxies& p, Results&) { p.voicemail.StopRecording(); }},
-    {&VoicemailMethod::StartPlayback, [](Proxies& p, Results&) { p.voicemail.StartPlayback(); }},
-    {&VoicemailMethod::StopPlayback, [](Proxies& p, Results&) { p.voicemail.StopPlayback(); }},
-    {&VoicemailMethod::Delete, [](Proxies& p, Results&) { p.voicemail.Delete(); }},
-    {&VoicemailMethod::Cancel, [](Proxies& p, Results&) { p.voicemail.Cancel(); }},
-    {&VoicemailMethod::ForwardToContacts, [](Proxies& p, Results&) { p.voicemail.ForwardToContacts(objectsOf({&p.contact})); }},
-    {&VoicemailMethod::ForwardToGroups, [](Proxies& p, Results&) { p.voicemail.ForwardToGroups(objectsOf({&p.contactGroup})); }},
-    {&VoicemailMethod::GetEventId, [](Proxies& p, Results&) { p.voicemail.GetEventId(); }},
-    {&VoicemailMethod::SetOrigin, [](Proxies& p, Results&) { p.voicemail.SetOrigin("text0"); }},
-    {&VoicemailMethod::MarkSeen, [](Proxies& p, Results&) { p.voicemail.MarkSeen(); }},
-    {&VoicemailMethod::CheckPermission, [](Proxies& p, Results&) { p.voicemail.CheckPermission(); }},
-    {&RootMethod::GetLastFileError, [](Proxies& p, Results& out) { p.root.GetLastFileError(out.text, out.number); }},
-    {&RootMethod::GetConnStatus, [](Proxies& p, Results&) { p.root.GetConnStatus(); }},
-    {&RootMethod::GetRConnectionStatus, [](Proxies& p, Results&) { p.root.GetRConnectionStatus(); }},
-    {&RootMethod::StartRConnection, [](Proxies& p, Results&) { p.root.StartRConnection(true, "text1"); }},
-    {&RootMethod::StartRConnectionSnap, [](Proxies& p, Results&) { p.root.StartRConnectionSnap(true, "text1"); }},
-    {&RootMethod::StartRConnectionAlwaysAsk, [](Proxies& p, Results&) { p.root.StartRConnectionAlwaysAsk(true); }},
-    {&RootMethod::StopRConnection, [](Proxies& p, Results&) { p.root.StopRConnection(); }},
-    {&RootMethod::GetRConnectionIAP, [](Proxies& p, Results&) { p.root.GetRConnectionIAP(); }},
-    {&RootMethod::GetUsedPort, [](Proxies& p, Results&) { p.root.GetUsedPort(); }},
-    {&RootMethod::GetDebugInfo, [](Proxies& p, Results&) { p.root.GetDebugInfo(); }},
-    {&RootMethod::Log, [](Proxies& p, Results&) { p.root.Log("text0", "text1"); }},
-    {&RootMethod::GetTotalOnlineUserCount, [](Proxies& p, Results&) { p.root.GetTotalOnlineUserCount(); }},
-    {&RootMethod::Ping, [](Proxies& p, Results&) { p.root.Ping(); }},
-    {&RootMethod::DeclareClientProp, [](Proxies& p, Results&) { p.root.DeclareClientProp(Zelto::CLIENTPROP(1), "text1"); }},
-    {&RootMethod::GetIntClientProp, [](Proxies& p, Results&) { p.root.GetIntClientProp(Zelto::CLIENTPROP(1)); }},
-    {&RootMethod::GetLibStatus, [](Proxies& p, Results&) { p.root.GetLibStatus(); }},
-    {&RootMethod::GetDefaultDBPath, [](Proxies& p, Results&) { p.root.GetDefaultDBPath(); }},
-    {&RootMethod::GetFatalErrorMessage, [](Proxies& p, Results&) { p.root.GetFatalErrorMessage(); }},
-    {&RootMethod::GetISOCountryNameDict, [](Proxies& p, Results&) { p.root.GetISOCountryNameDict("text0"); }},
-    {&RootMethod::GetISOLanguageNameDict, [](Proxies& p, Results&) { p.root.GetISOLanguageNameDict("text0"); }},
-    {&RootMethod::GetISOCountryPrefixDict, [](Proxies& p, Results&) { p.root.GetISOCountryPrefixDict(); }},
-    {&RootMethod::GetISOCountryDialExampleDict, [](Proxies& p, Results&) { p.root.GetISOCountryDialExampleDict(); }},
-    {&RootMethod::GetISOCountryCodeList, [](Proxies& p, Results&) { p.root.GetISOCountryCodeList(); }},
-    {&RootMethod::GetISOLanguageCodeList, [](Proxies& p, Results&) { p.root.GetISOLanguageCodeList(); }},
-    {&RootMethod::IsISOCountryCode, [](Proxies& p, Results&) { p.root.IsISOCountryCode("text0"); }},
-    {&RootMethod::GetISOCountryName, [](Proxies& p, Results&) { p.root.GetISOCountryName("text0", "text1"); }},
-    {&RootMethod::GetISOLanguageName, [](Proxies& p, Results&) { p.root.GetISOLanguageName("text0", "text1"); }},
-    {&RootMethod::GetISOCountryPrefix, [](Proxies& p, Results&) { p.root.GetISOCountryPrefix("text0"); }},
-    {&RootMethod::GetISOCountryDialExample, [](Proxies& p, Results&) { p.root.GetISOCountryDialExample("text0"); }},
-    {&RootMethod::GetISOCountryCodeByPrefix, [](Proxies& p, Results&) { p.root.GetISOCountryCodeByPrefix(-0); }},
-    {&RootMethod::GetVersion, [](Proxies& p, Results&) { p.root.GetVersion(); }},
-    {&RootMethod::GetPlatform, [](Proxies& p, Results&) { p.root.GetPlatform(); }},
-    {&RootMethod::GetUnixTimestamp, [](Proxies& p, Results&) { p.root.GetUnixTimestamp(); }},
-    {&RootMethod::GetUpgradeInfo, [](Proxies& p, Results& out) { p.root.GetUpgradeInfo(out.text); }},
-    {&RootMethod::GetExistingAccounts, [](Proxies& p, Results&) { p.root.GetExistingAccounts(); }},
-    {&RootMethod::GetDefaultAccount, [](Proxies& p, Results&) { p.root.GetDefaultAccount(); }},
-    {&RootMethod::GetAccount, [](Proxies& p, Results&) { p.root.GetAccount("text0"); }},
-    {&RootMethod::GetFreeBytesLeft, [](Proxies& p, Results&) { p.root.GetFreeBytesLeft(Account::PROPERTY(1), "text1"); }},
-    {&RootMethod::IsValidEmail, [](Proxies& p, Results&) { p.root.IsValidEmail("text0"); }},
-    {&RootMethod::GetSuggestedZeltoname, [](Proxies& p, Results&) { p.root.GetSuggestedZeltoname("text0"); }},
-    {&RootMethod::ValidatePassword, [](Proxies& p, Results&) { p.root.ValidatePassword("text0", "text1"); }},
-    {&RootMethod::GetContact, [](Proxies& p, Results&) { p.root.GetContact("text0"); }},
-    {&RootMethod::FindContactBySpeedDial, [](Proxies& p, Results&) { p.root.FindContactBySpeedDial("text0"); }},
-    {&RootMethod::FindContactByPstnNumber, [](Proxies& p, Results& out) { p.root.FindContactByPstnNumber("text0", out.property); }},
-    {&RootMethod::NormalizeIdentity, [](Proxies& p, Results& out) { p.root.NormalizeIdentity("text0", false, out.text); }},
-    {&RootMethod::GetTypeByIdentity, [](Proxies& p, Results&) { p.root.GetTypeByIdentity("text0"); }},
-    {&RootMethod::GetStr, [](Proxies& p, Results&) { p.root.GetStr("text0"); }},
-    {&RootMethod::GetInt, [](Proxies& p, Results&) { p.root.GetInt("text0"); }},
-    {&RootMethod::SetStr, [](Proxies& p, Results&) { p.root.SetStr("text0", "text1"); }},
-    {&RootMethod::SetInt, [](Proxies& p, Results&) { p.root.SetInt("text0", -1); }},
-    {&RootMethod::IsDefined, [](Proxies& p, Results&) { p.root.IsDefined("text0"); }},
-    {&RootMethod::Delete, [](Proxies& p, Results&) { p.root.Delete("text0"); }},
-    {&RootMethod::GetSubKeys, [](Proxies& p, Results&) { p.root.GetSubKeys("text0"); }},
-    {&RootMethod::PlayStart, [](Proxies& p, Results&) { p.root.PlayStart(0u, bytes(), true, false); }},
-    {&RootMethod::PlayStop, [](Proxies& p, Results&) { p.root.PlayStop(0u); }},
-    {&RootMethod::StartRecordingTest, [](Proxies& p, Results&) { p.root.StartRecordingTest(); }},
-    {&RootMethod::StopRecordingTest, [](Proxies& p, Results&) { p.root.StopRecordingTest(); }},
-    {&RootMethod::PlayDTMF, [](Proxies& p, Results&) { p.root.PlayDTMF(CallMember::DTMF(1)); }},
-    {&RootMethod::GetAvailableOutputDevices, [](Proxies& p, Results& out) { p.root.GetAvailableOutputDevices(out.texts, out.texts, out.texts); }},
-    {&RootMethod::GetAvailableRecordingDevices, [](Proxies& p, Results& out) { p.root.GetAvailableRecordingDevices(out.texts, out.texts); }},
-    {&RootMethod::SelectSoundDevices, [](Proxies& p, Results&) { p.root.SelectSoundDevices("text0", "text1", "text2"); }},
-    {&RootMethod::GetNrgLevels, [](Proxies& p, Results& out) { p.root.GetNrgLevels(out.unsignedNumber, out.unsignedNumber); }},
-    {&RootMethod::GetSpeakerVolume, [](Proxies& p, Results&) { p.root.GetSpeakerVolume(); }},
-    {&RootMethod::SetSpeakerVolume, [](Proxies& p, Results&) { p.root.SetSpeakerVolume(-0); }},
-    {&RootMethod::GetMicVolume, [](Proxies& p, Results&) { p.root.GetMicVolume(); }},
-    {&RootMethod::SetMicVolume, [](Proxies& p, Results&) { p.root.SetMicVolume(-0); }},
-    {&RootMethod::VoiceCommand, [](Proxies& p, Results&) { p.root.VoiceCommand("text0", true); }},
-    {&RootMethod::CreateApp2App, [](Proxies& p, Results&) { p.root.CreateApp2App("app"); }},
-    {&RootMethod::GetHardwiredContactGroup, [](Proxies& p, Results&) { p.root.GetHardwiredContactGroup(ContactGroup::TYPE(1)); }},
-    {&RootMethod::GetCustomContactGroups, [](Proxies& p, Results&) { p.root.GetCustomContactGroups(); }},
-    {&RootMethod::CreateCustomContactGroup, [](Proxies& p, Results&) { p.root.CreateCustomContactGroup(); }},
-    {&RootMethod::CreateCall, [](Proxies& p, Results&) { p.root.CreateCall(); }},
-    {&RootMethod::JoinExistingCall, [](Proxies& p, Results&) { p.root.JoinExistingCall("text0", "text1"); }},
-    {&RootMethod::GetCall, [](Proxies& p, Results&) { p.root.GetCall("text0"); }},
-    {&RootMethod::GetUnseenMissedCalls, [](Proxies& p, Results&) { p.root.GetUnseenMissedCalls(); }},
-    {&RootMethod::GetHistoricalCalls, [](Proxies& p, Results&) { p.root.GetHistoricalCalls(); }},
-    {&RootMethod::ClearCallHistory, [](Proxies& p, Results&) { p.root.ClearCallHistory(Call::CLEARCALLHISTORYTYPE(1), "text1"); }},
-    {&RootMethod::GetPreviewVideo, [](Proxies& p, Results&) { p.root.GetPreviewVideo(); }},
-    {&RootMethod::DisplayVideoDeviceTuningDialog, [](Proxies& p, Results&) { p.root.DisplayVideoDeviceTuningDialog(); }},
-    {&RootMethod::GetVideoDeviceCapabilities, [](Proxies& p, Results& out) { p.root.GetVideoDeviceCapabilities("text0", "text1", out.text); }},
-    {&RootMethod::GetAvailableVideoDevices, [](Proxies& p, Results& out) { p.root.GetAvailableVideoDevices(out.texts); }},
-    {&RootMethod::VideoCommand, [](Proxies& p, Results&) { p.root.VideoCommand("text0", true); }},
-    {&RootMethod::StartTransfer, [](Proxies& p, Results&) { p.root.StartTransfer("text0", "text1"); }},
-    {&RootMethod::GetActiveTransfers, [](Proxies& p, Results&) { p.root.GetActiveTransfers(); }},
-    {&RootMethod::GetGreeting, [](Proxies& p, Results&) { p.root.GetGreeting("text0"); }},
-    {&RootMethod::CreateConfirmationRequestSms, [](Proxies& p, Results&) { p.root.CreateConfirmationRequestSms(); }},
-    {&RootMethod::CreateConfirmationSubmitSms, [](Proxies& p, Results&) { p.root.CreateConfirmationSubmitSms(); }},
-    {&RootMethod::CreateOutgoingSms, [](Proxies& p, Results&) { p.root.CreateOutgoingSms(); }},
-    {&RootMethod::GetValidatedSmsNumbers, [](Proxies& p, Results&) { p.root.GetValidatedSmsNumbers(); }},
-    {&RootMethod::GetLastConfirmationNumber, [](Proxies& p, Results&) { p.root.GetLastConfirmationNumber(); }},
-    {&RootMethod::CreateChat, [](Proxies& p, Results&) { p.root.CreateChat(); }},
-    {&RootMethod::GetChat, [](Proxies& p, Results&) { p.root.GetChat("text0"); }},
-    {&RootMethod::OpenChatTo, [](Proxies& p, Results&) { p.root.OpenChatTo("text0"); }},
-    {&RootMethod::GetPublicChat, [](Proxies& p, Results&) { p.root.GetPublicChat("text0"); }},
-    {&RootMethod::DeleteAllMessages, [](Proxies& p, Results&) { p.root.DeleteAllMessages(); }},
-    {&RootMethod::GetRecentChats, [](Proxies& p, Results&) { p.root.GetRecentChats(); }},
-    {&RootMethod::GetUnreadChats, [](Proxies& p, Results&) { p.root.GetUnreadChats(); }},
-    {&RootMethod::GetBookmarkedChats, [](Proxies& p, Results&) { p.root.GetBookmarkedChats(); }},
-    {&RootMethod::GetChatMemberCountLimit, [](Proxies& p, Results&) { p.root.GetChatMemberCountLimit(); }},
-    {&RootMethod::SearchObjects, [](Proxies& p, Results&) { p.root.SearchObjects(SearchTerm(Search::CHAT), -1); }},
-    {&RootMethod::NewSearch, [](Proxies& p, Results&) { p.root.NewSearch(ContactSearchTerm(), true, -1); }},
-    {&RootMethod::NewBasicSearch, [](Proxies& p, Results&) { p.root.NewBasicSearch("text0", false, -2); }},
-    {&RootMethod::NewIdentitySearch, [](Proxies& p, Results&) { p.root.NewIdentitySearch("text0", false, -2); }},
-    {&RootMethod::GetOptimalAgeRanges, [](Proxies& p, Results&) { p.root.GetOptimalAgeRanges(); }},
-    {&RootMethod::IssuePriceQuote, [](Proxies& p, Results&) { p.root.IssuePriceQuote("text0", PriceQuote::TYPE(1), "text2", "text3", "text4", "text5", "text6"); }},
-};
-// Setting properties has keys of its own; starting and stopping belong to the root's own work.
-static_assert(std::size(ALL_CALLS) + 2 + 4 + 2 == std::size(CLASS_METHODS) + std::size(ROOT_METHODS));
-// clang-format on
+template <auto Method, class Result, class Class, class... Arguments, std::size_t... Places>
+bool callWith(Proxies& p, Result (Class::*)(Arguments...), std::index_sequence<Places...>) {
+  // The first argument of an application's requests is its name, which no caller passes.
+  [[maybe_unused]] constexpr std::size_t kFirst = std::is_same_v<Class, App2App> ? 1 : 0;
+  std::tuple<std::decay_t<Arguments>...> values{argumentOf<std::decay_t<Arguments>>(p, Places + kFirst)...};
+  (proxyOf<Class>(p).*Method)(std::get<Places>(values)...);
+  return (isEmptied<Arguments>(std::get<Places>(values)) && ...);
+}
+
+template <class Result, class Class, class... Arguments>
+std::index_sequence_for<Arguments...> placesOf(Result (Class::*)(Arguments...));
+
+template <auto Method>
+bool callOne(Proxies& p) {
+  return callWith<Method>(p, Method, decltype(placesOf(Method))());
+}
+
+// Answers whether every text and list for results came back empty.
+using MethodCall = bool (*)(Proxies& p);
+
+template <auto... Methods>
+inline constexpr MethodCall kCalls[] = {&callOne<Methods>...};
+
+inline constexpr auto& ALL_CALLS = kCalls<
+    &Account::Login, &Account::LoginWithPassword, &Account::Register, &Account::SubmitUICRequestResponse,
+    &Account::Logout, &Account::ChangePassword, &Account::CancelServerCommit, &Account::SetAvailability,
+    &Account::GetZeltonameHash, &Account::GetCapabilityStatus, &Account::GetContact,
+    &Account::CreateSignedToken, &Alert::MarkSeen, &Alert::Delete, &App2App::Delete, &App2App::Connect,
+    &App2App::Disconnect, &App2App::Write, &App2App::Datagram, &App2App::Read, &Call::Mute, &Call::SetTopic,
+    &Call::SetAccessToken, &Call::Ring, &Call::LeaveVoicemail, &Call::Assimilate, &Call::RequestMike,
+    &Call::GrantMike, &Call::GetMembers, &Call::Delete, &Call::End, &Call::Hold, &Call::CanHold,
+    &Call::CanResume, &Call::MarkSeen, &Call::MarkUnseen, &Call::PlayAndSendDTMF, &CallMember::Answer,
+    &CallMember::Hold, &CallMember::GrantMike, &CallMember::SkipVoicemailGreeting,
+    &CallMember::SetVoicemailOrigin, &CallMember::End, &CallMember::Transfer, &CallMember::CanTransfer,
+    &CallMember::GetSendVideo, &CallMember::GetRecvVideo, &CallMember::Redial, &CallMember::SetMissed,
+    &Chat::GetJoinBlob, &Chat::Join, &Chat::SetPassword, &Chat::EnterPassword, &Chat::AcceptAdd,
+    &Chat::AddMembers, &Chat::SetPicture, &Chat::GetPicture, &Chat::GetRecentMessages,
+    &Chat::ClearRecentMessages, &Chat::GetUnsentMessages, &Chat::SetOptions, &Chat::Say, &Chat::SetTopic,
+    &Chat::SetGuidelines, &Chat::KickMember, &Chat::PostContacts, &Chat::PostFiles, &Chat::ReportMyActivities,
+    &Chat::Leave, &Chat::Disband, &Chat::SetBookmark, &Chat::SetAlertString, &Chat::Delete, &Chat::GetMembers,
+    &ChatMember::CanSetRoleTo, &ChatMember::SetRoleTo, &ChatMessage::IsEditable, &ChatMessage::Edit,
+    &ChatMessage::MarkRead, &ChatMessage::GetContacts, &Contact::IsMemberOf, &Contact::GiveAuthLevel,
+    &Contact::GiveDisplayName, &Contact::AssignSpeedDial, &Contact::SetBuddyStatus, &Contact::SendAuthRequest,
+    &Contact::HasCapability, &Contact::RefreshProfile, &Contact::HasAuthorizedMe, &Contact::GetAvatar,
+    &Contact::SetPhoneNumber, &ContactGroup::GetContacts, &ContactGroup::GiveDisplayName,
+    &ContactGroup::CanAddContact, &ContactGroup::AddContact, &ContactGroup::CanRemoveContact,
+    &ContactGroup::RemoveContact, &ContactGroup::Delete, &ContactSearch::Extend, &ContactSearch::Release,
+    &ContactSearch::GetResults, &PriceQuote::GetReferredObject, &PriceQuote::Accept, &PriceQuote::Reject,
+    &Search::Extend, &Search::Release, &Search::GetResults, &Sms::GetTargetStatus, &Sms::SetReplyTo,
+    &Sms::SetTargets, &Sms::SetBody, &Sms::GetBodyChunks, &Sms::Send, &Sms::MarkSeen, &Sms::Delete,
+    &Sms::SetConfirmationType, &Transfer::Accept, &Transfer::Pause, &Transfer::Resume, &Transfer::Cancel,
+    &Transfer::Delete, &Video::SetScreen, &Video::Start, &Video::Stop, &Video::CaptureImage,
+    &Voicemail::StartRecording, &Voicemail::StopRecording, &Voicemail::StartPlayback,
+    &Voicemail::StopPlayback, &Voicemail::Delete, &Voicemail::Cancel, &Voicemail::ForwardToContacts,
+    &Voicemail::ForwardToGroups, &Voicemail::GetEventId, &Voicemail::SetOrigin, &Voicemail::MarkSeen,
+    &Voicemail::CheckPermission, &Zelto::GetLastFileError, &Zelto::GetConnStatus,
+    &Zelto::GetRConnectionStatus, &Zelto::StartRConnection, &Zelto::StartRConnectionSnap,
+    &Zelto::StartRConnectionAlwaysAsk, &Zelto::StopRConnection, &Zelto::GetRConnectionIAP,
+    &Zelto::GetUsedPort, &Zelto::GetDebugInfo, &Zelto::Log, &Zelto::GetTotalOnlineUserCount, &Zelto::Ping,
+    &Zelto::DeclareClientProp, &Zelto::GetIntClientProp, &Zelto::GetLibStatus, &Zelto::GetDefaultDBPath,
+    &Zelto::GetFatalErrorMessage, &Zelto::GetISOCountryNameDict, &Zelto::GetISOLanguageNameDict,
+    &Zelto::GetISOCountryPrefixDict, &Zelto::GetISOCountryDialExampleDict, &Zelto::GetISOCountryCodeList,
+    &Zelto::GetISOLanguageCodeList, &Zelto::IsISOCountryCode, &Zelto::GetISOCountryName,
+    &Zelto::GetISOLanguageName, &Zelto::GetISOCountryPrefix, &Zelto::GetISOCountryDialExample,
+    &Zelto::GetISOCountryCodeByPrefix, &Zelto::GetVersion, &Zelto::GetPlatform, &Zelto::GetUnixTimestamp,
+    &Zelto::GetUpgradeInfo, &Zelto::GetExistingAccounts, &Zelto::GetDefaultAccount, &Zelto::GetAccount,
+    &Zelto::GetFreeBytesLeft, &Zelto::IsValidEmail, &Zelto::GetSuggestedZeltoname, &Zelto::ValidatePassword,
+    &Zelto::GetContact, &Zelto::FindContactBySpeedDial, &Zelto::FindContactByPstnNumber,
+    &Zelto::NormalizeIdentity, &Zelto::GetTypeByIdentity, &Zelto::GetStr, &Zelto::GetInt, &Zelto::SetStr,
+    &Zelto::SetInt, &Zelto::IsDefined, &Zelto::Delete, &Zelto::GetSubKeys, &Zelto::PlayStart,
+    &Zelto::PlayStop, &Zelto::StartRecordingTest, &Zelto::StopRecordingTest, &Zelto::PlayDTMF,
+    &Zelto::GetAvailableOutputDevices, &Zelto::GetAvailableRecordingDevices, &Zelto::SelectSoundDevices,
+    &Zelto::GetNrgLevels, &Zelto::GetSpeakerVolume, &Zelto::SetSpeakerVolume, &Zelto::GetMicVolume,
+    &Zelto::SetMicVolume, &Zelto::VoiceCommand, &Zelto::CreateApp2App, &Zelto::GetHardwiredContactGroup,
+    &Zelto::GetCustomContactGroups, &Zelto::CreateCustomContactGroup, &Zelto::CreateCall,
+    &Zelto::JoinExistingCall, &Zelto::GetCall, &Zelto::GetUnseenMissedCalls, &Zelto::GetHistoricalCalls,
+    &Zelto::ClearCallHistory, &Zelto::GetPreviewVideo, &Zelto::DisplayVideoDeviceTuningDialog,
+    &Zelto::GetVideoDeviceCapabilities, &Zelto::GetAvailableVideoDevices, &Zelto::VideoCommand,
+    &Zelto::StartTransfer, &Zelto::GetActiveTransfers, &Zelto::GetGreeting,
+    &Zelto::CreateConfirmationRequestSms, &Zelto::CreateConfirmationSubmitSms, &Zelto::CreateOutgoingSms,
+    &Zelto::GetValidatedSmsNumbers, &Zelto::GetLastConfirmationNumber, &Zelto::CreateChat, &Zelto::GetChat,
+    &Zelto::OpenChatTo, &Zelto::GetPublicChat, &Zelto::DeleteAllMessages, &Zelto::GetRecentChats,
+    &Zelto::GetUnreadChats, &Zelto::GetBookmarkedChats, &Zelto::GetChatMemberCountLimit,
+    &Zelto::NewBasicSearch, &Zelto::NewIdentitySearch, &Zelto::GetOptimalAgeRanges, &Zelto::IssuePriceQuote>;

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include <string>
+#include <tuple>
 
 #include "apiwrapper/Account.h"
 #include "apiwrapper/Alert.h"
@@ -61,7 +62,12 @@ struct Proxies {
   Transfer& transfer = *root.getTransfer(18);
   Video& video = *root.getVideo(19);
   Voicemail& voicemail = *root.getVoicemail(20);
-  App2App& app2App = *root.getApp2App("app");
+  App2App& app2App = *root.getApp2App("text0");
+  std::tuple<App2App&, Account&, Alert&, Call&, CallMember&, Chat&, ChatMember&, ChatMessage&, Contact&,
+             ContactGroup&, ContactSearch&, PriceQuote&, Search&, Sms&, Transfer&, Video&, Voicemail&>
+      all{app2App,    account,     alert,    call,         callMember,    chat,
+          chatMember, chatMessage, contact,  contactGroup, contactSearch, priceQuote,
+          search,     sms,         transfer, video,        voicemail};
 };
 
 class WithProxies : public testing::Test, protected Proxies {};

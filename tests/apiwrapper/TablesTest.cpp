@@ -5,8 +5,6 @@
 #include <utility>
 
 #include "apiwrapper/Account.h"
-#include "apiwrapper/CallMember.h"
-#include "apiwrapper/Contact.h"
 #include "apiwrapper/ZEProtocol.h"
 #include "apiwrapper/tables/ClassMethods.h"
 #include "apiwrapper/tables/Events.h"
@@ -20,33 +18,18 @@ void forEachMethod(Visit visit) {
   for (const ZEMethod* row : ROOT_METHODS) visit(*row);
 }
 
-template <std::size_t N>
-std::size_t used(const ZEField (&fields)[N]) {
-  std::size_t count = 0;
-  while (count < N && fields[count].key != nullptr) ++count;
-  return count;
-}
-
 TEST(AnEnumeration, CountsWithTheFirstOfTwoEqualTokens) {
   EXPECT_EQ(ZEProtocol::ValueOf(CONTACT_AVAILABILITY_MAP, "1760"), 1);
-  EXPECT_STREQ(ZEProtocol::TokenOf(CONTACT_AVAILABILITY_MAP, 8), "1385");
   EXPECT_STREQ(ZEProtocol::TokenOf(CONTACT_AVAILABILITY_MAP, 18), "1272");
-}
-
-TEST(AnEnumeration, NeedNotBeNumberedFromOneInOrder) {
-  EXPECT_EQ(ZEProtocol::ValueOf(ACCOUNT_VALIDATERESULT_MAP, "1653"), Account::NOT_VALIDATED);
-  EXPECT_EQ(ZEProtocol::ValueOf(ACCOUNT_AVATARPOLICY_MAP, "1097"), 1);
-  EXPECT_EQ(ZEProtocol::ValueOf(SMS_CONFIRM_TYPE_MAP, "2047"), 0);
-  EXPECT_EQ(ZEProtocol::TokenOf(ZELTO_CALLBACK_MAP, 10), nullptr);
+  EXPECT_EQ(ZEProtocol::ValueOf(SMS_CONFIRM_TYPE_MAP, "2047"), 0) << "not all are numbered from one";
 }
 
 TEST(AnEnumeration, AnswersNothingForWhatItDoesNotHold) {
-  EXPECT_EQ(ZEProtocol::ValueOf(ACCOUNT_STATUS_MAP, "1"), -1);
-  EXPECT_EQ(ZEProtocol::ValueOf(ACCOUNT_STATUS_MAP, ""), -1);
-  EXPECT_EQ(ZEProtocol::ValueOf(ACCOUNT_STATUS_MAP, nullptr), -1);
+  for (const char* token : {"1", "", static_cast<const char*>(nullptr)}) {
+    EXPECT_EQ(ZEProtocol::ValueOf(ACCOUNT_STATUS_MAP, token), -1);
+  }
   EXPECT_EQ(ZEProtocol::ValueOf(nullptr, "1113"), -1);
   EXPECT_EQ(ZEProtocol::TokenOf(ACCOUNT_STATUS_MAP, 0), nullptr);
-  EXPECT_EQ(ZEProtocol::TokenOf(ACCOUNT_STATUS_MAP, -1), nullptr);
   EXPECT_EQ(ZEProtocol::EnumOf(ACCOUNT_EMAP, Account::P_NAME), nullptr);
   EXPECT_EQ(ZEProtocol::EnumOf(ALERT_EMAP, 1), nullptr);
 }
@@ -62,9 +45,6 @@ TEST(AClassRow, NumbersItsPropertiesFromOneAndEnumeratesOnlyThem) {
       EXPECT_NE(ZEProtocol::TokenOf(row->properties, entry->property), nullptr) << row->name;
     }
   }
-  EXPECT_STREQ(ZEProtocol::TokenOf(ACCOUNT_PROPERTY_MAP, Account::P_VOICEMAIL_POLICY), "1442");
-  EXPECT_STREQ(ZEProtocol::TokenOf(CALLMEMBER_PROPERTY_MAP, CallMember::P_VOICEMAIL_FAILUREREASON), "1081");
-  EXPECT_STREQ(ZEProtocol::TokenOf(CONTACT_PROPERTY_MAP, Contact::P_ASSIGNED_PHONE3_LABEL), "1865");
 }
 
 TEST(AClassRow, IsFoundByTokenNameAndType) {
@@ -75,52 +55,38 @@ TEST(AClassRow, IsFoundByTokenNameAndType) {
     EXPECT_EQ(ZEProtocol::ClassByType(row->objectType), row) << row->name;
     EXPECT_STREQ(ZEProtocol::TokenOf(ZELTO_OBJECTTYPE_MAP, row->objectType), row->token);
   }
-  EXPECT_EQ(ZEProtocol::ClassByToken("0"), nullptr);
   EXPECT_EQ(ZEProtocol::ClassByToken(nullptr), nullptr);
   EXPECT_EQ(ZEProtocol::ClassByType(0), nullptr) << "not the first class that has no type";
-  EXPECT_EQ(ZEProtocol::ClassByName("account"), nullptr);
 }
 
 TEST(AMethodRow, IsFoundByTheTokensOfItsRequest) {
-  forEachMethod([](const ZEMethod& row) {
+  std::set<std::pair<const ZEClass*, std::string>> seen;
+  forEachMethod([&](const ZEMethod& row) {
     const ZEClass* owner = row.owner == nullptr ? &CHAT_CLASS : row.owner;
     EXPECT_EQ(ZEProtocol::MethodByToken(owner, row.token, row.call != ZECall::OneWay), &row) << row.name;
+    // Two methods of text messages share a token; the one that waits is the other one.
+    EXPECT_TRUE(seen.emplace(row.owner, row.token).second || &row == &SmsMethod::MarkSeen) << row.name;
   });
   EXPECT_EQ(ZEProtocol::MethodByToken(&ACCOUNT_CLASS, "1252", true), &AccountMethod::Login)
       << "though it is one-way";
   EXPECT_EQ(ZEProtocol::MethodByToken(&ACCOUNT_CLASS, "1033"), nullptr) << "of another class";
-  EXPECT_EQ(ZEProtocol::MethodByToken(&ACCOUNT_CLASS, "99999"), nullptr);
   EXPECT_EQ(ZEProtocol::MethodByToken(&ACCOUNT_CLASS, nullptr), nullptr);
   EXPECT_EQ(ZEProtocol::MethodByToken(nullptr, "1252"), nullptr);
-}
-
-TEST(AMethodRow, IsFoundByItsName) {
-  EXPECT_EQ(ZEProtocol::MethodByName(&CHAT_CLASS, "Say"), &ChatMethod::Say);
   EXPECT_EQ(ZEProtocol::MethodByName(&CHAT_CLASS, "OpenChatTo"), &RootMethod::OpenChatTo);
   EXPECT_EQ(ZEProtocol::MethodByName(&CHAT_CLASS, "GetProps"), &ObjectMethod::GetProps);
   EXPECT_EQ(ZEProtocol::MethodByName(&CHAT_CLASS, "Ring"), nullptr);
 }
 
-TEST(AMethodRow, SharesItsTokenWithNoOtherOfItsClassButForSms) {
-  std::set<std::pair<const ZEClass*, std::string>> seen;
-  std::vector<std::string> shared;
-  forEachMethod([&](const ZEMethod& row) {
-    if (!seen.emplace(row.owner, row.token).second) shared.emplace_back(row.name);
-  });
-  EXPECT_EQ(shared, std::vector<std::string>{"MarkSeen"});
-  EXPECT_EQ(ZEProtocol::MethodByToken(&SMS_CLASS, "1871", true), &SmsMethod::SetTargets);
-  EXPECT_EQ(ZEProtocol::MethodByToken(&SMS_CLASS, "1871", false), &SmsMethod::MarkSeen);
-}
-
 TEST(AMethodRow, HasAnEnumerationForEachTokenAndNoOtherAndReadsNothingWhenOneWay) {
   forEachMethod([](const ZEMethod& row) {
     const auto check = [&](const ZEField& field) {
+      if (field.key == nullptr) return;
       EXPECT_EQ(field.table != nullptr, field.kind == ZEKind::Token) << row.name;
       EXPECT_NE(ZEProtocol::KeyName(field.key), nullptr) << row.name;
     };
-    for (std::size_t i = 0; i < used(row.arguments); ++i) check(row.arguments[i]);
-    for (std::size_t i = 0; i < used(row.results); ++i) check(row.results[i]);
-    EXPECT_TRUE(row.call != ZECall::OneWay || used(row.results) == 0) << row.name;
+    for (const ZEField& argument : row.arguments) check(argument);
+    for (const ZEField& result : row.results) check(result);
+    EXPECT_TRUE(row.call != ZECall::OneWay || row.results[0].key == nullptr) << row.name;
   });
 }
 
@@ -132,19 +98,7 @@ TEST(AnEventRow, BelongsToEachCallbackToken) {
   }
   EXPECT_STREQ(ZEProtocol::EventByToken("1122")->name, "NewCall");
   EXPECT_EQ(ZEProtocol::EventByToken("0"), nullptr);
-  EXPECT_EQ(ZEProtocol::EventByNumber(10), nullptr);
-}
-
-TEST(AKey, HasOneNameAndOneToken) {
-  std::set<std::string> keys;
-  std::set<std::string> names;
-  for (const ZEKeyName& row : KEY_NAMES) {
-    EXPECT_TRUE(keys.insert(row.key).second) << row.key;
-    EXPECT_TRUE(names.insert(row.name).second) << row.name;
-    EXPECT_STREQ(ZEProtocol::KeyName(row.key), row.name);
-  }
-  EXPECT_EQ(ZEProtocol::KeyName("x"), nullptr);
-  EXPECT_EQ(ZEProtocol::KeyName(nullptr), nullptr);
+  EXPECT_EQ(ZEProtocol::EventByNumber(10), nullptr) << "a gap in the numbers";
 }
 
 }  // namespace

@@ -29,52 +29,48 @@ using testing::IsEmpty;
 // Callbacks as words, in the order in which they came.
 std::vector<std::string> g_heard;
 
+std::string word(long number) { return std::to_string(number); }
+std::string word(ZEObject* object) { return object == nullptr ? "none" : word(long{object->getOID()}); }
+std::string word(const ZEString& value) { return value.isNull() ? "null" : std::string(value); }
+
 template <class... Parts>
 void heard(const std::string& callback, const Parts&... parts) {
   std::string line = callback;
-  ((line += " " + std::string(parts)), ...);
+  ((line += " " + word(parts)), ...);
   g_heard.push_back(line);
 }
-
-std::string number(int value) { return std::to_string(value); }
-std::string idOf(ZEObject* object) { return object == nullptr ? "none" : std::to_string(object->getOID()); }
-std::string text(const ZEString& value) { return value.isNull() ? "null" : std::string(value); }
 
 class HeardMember : public CallMember {
  public:
   using CallMember::CallMember;
-  void OnChange(int property, const ZEString& value) override {
-    heard("OnChange", number(property), text(value));
-  }
-  void OnDelete() override { heard("OnDelete", idOf(this)); }
-  void OnIncomingDTMF(CallMember::DTMF tone) override { heard("OnIncomingDTMF", number(tone)); }
+  void OnChange(int property, const ZEString& value) override { heard("OnChange", property, value); }
+  void OnDelete() override { heard("OnDelete", getOID()); }
+  void OnIncomingDTMF(CallMember::DTMF tone) override { heard("OnIncomingDTMF", tone); }
 };
 
 class HeardContact : public Contact {
  public:
   using Contact::Contact;
-  void OnContactGoneOffline() override { heard("OnContactGoneOffline", idOf(this)); }
+  void OnContactGoneOffline() override { heard("OnContactGoneOffline", getOID()); }
 };
 
 class HeardGroup : public ContactGroup {
  public:
   using ContactGroup::ContactGroup;
-  void OnGroupChanged(Contact* contact, bool added) override {
-    heard("OnGroupChanged", idOf(contact), number(added));
-  }
+  void OnGroupChanged(Contact* contact, bool added) override { heard("OnGroupChanged", contact, added); }
 };
 
 class HeardSearch : public ContactSearch {
  public:
   using ContactSearch::ContactSearch;
-  void OnNewResult(Contact* contact) override { heard("OnNewResult", idOf(contact)); }
+  void OnNewResult(Contact* contact) override { heard("OnNewResult", contact); }
 };
 
 class HeardVideo : public Video {
  public:
   using Video::Video;
   void OnLastFrameCapture(ZEString& image, unsigned int width, unsigned int height) override {
-    heard("OnLastFrameCapture", image.getHexRepresentation(), std::to_string(width), std::to_string(height));
+    heard("OnLastFrameCapture", image.getHexRepresentation(), width, height);
   }
 };
 
@@ -82,10 +78,10 @@ class HeardApp2App : public App2App {
  public:
   using App2App::App2App;
   void OnChange(App2App::PROPERTY property, const ZEStringList& values) override {
-    heard("OnChange", number(property), values.join("|", false));
+    heard("OnChange", property, values.join("|", false));
   }
   void OnDatagram(const ZEString& stream, const ZEString& data) override {
-    heard("OnDatagram", text(stream), text(data));
+    heard("OnDatagram", stream, data);
   }
 };
 
@@ -99,37 +95,29 @@ class HeardRoot : public Zelto {
   Video* newVideo(int oid) override { return new HeardVideo(oid, this); }
   App2App* newApp2App(const ZEString& name) override { return new HeardApp2App(name, this); }
 
-  void OnLibStatusChange(LIBSTATUS value) override { heard("OnLibStatusChange", number(value)); }
-  void OnConnStatusChange(CONNSTATUS value) override { heard("OnConnStatusChange", number(value)); }
-  void OnFileError(FILEERROR value) override { heard("OnFileError", number(value)); }
+  void OnLibStatusChange(LIBSTATUS value) override { heard("OnLibStatusChange", value); }
+  void OnConnStatusChange(CONNSTATUS value) override { heard("OnConnStatusChange", value); }
+  void OnFileError(FILEERROR value) override { heard("OnFileError", value); }
   void OnProxyAuthenticationFailure(PROXYTYPE value) override {
-    heard("OnProxyAuthenticationFailure", number(value));
+    heard("OnProxyAuthenticationFailure", value);
   }
   void OnUpgradeInfo(UPGRADEAVAILABILITY value, const ZEString& version) override {
-    heard("OnUpgradeInfo", number(value), text(version));
+    heard("OnUpgradeInfo", value, version);
   }
-  void OnUICRequest(const ZEString& blob) override { heard("OnUICRequest", text(blob)); }
+  void OnUICRequest(const ZEString& blob) override { heard("OnUICRequest", blob); }
   void OnRConnectionStatusChange(RCONNECTION_STATUS value) override {
-    heard("OnRConnectionStatusChange", number(value));
+    heard("OnRConnectionStatusChange", value);
   }
   void OnAvailableDeviceListChange() override { heard("OnAvailableDeviceListChange"); }
   void OnNrgLevelsChange() override { heard("OnNrgLevelsChange"); }
-  void OnNewCall(Call* call) override {
-    heard("OnNewCall", idOf(call), number(getObject(call->getOID()) == call));
-  }
-  void OnIncomingTransfer(Transfer* transfer) override { heard("OnIncomingTransfer", idOf(transfer)); }
-  void OnIncomingVoicemail(Voicemail* voicemail) override { heard("OnIncomingVoicemail", idOf(voicemail)); }
-  void OnChatMessage(Chat* chat, ChatMessage* message) override {
-    heard("OnChatMessage", idOf(chat), idOf(message));
-  }
-  void OnNewCustomContactGroup(ContactGroup* group) override {
-    heard("OnNewCustomContactGroup", idOf(group));
-  }
-  void OnContactOnlineAppearance(Contact* contact) override {
-    heard("OnContactOnlineAppearance", idOf(contact));
-  }
-  void OnIncomingPriceQuote(PriceQuote* quote) override { heard("OnIncomingPriceQuote", idOf(quote)); }
-  void OnIncomingAlert(Alert* alert) override { heard("OnIncomingAlert", idOf(alert)); }
+  void OnNewCall(Call* call) override { heard("OnNewCall", call, getObject(call->getOID()) == call); }
+  void OnIncomingTransfer(Transfer* transfer) override { heard("OnIncomingTransfer", transfer); }
+  void OnIncomingVoicemail(Voicemail* voicemail) override { heard("OnIncomingVoicemail", voicemail); }
+  void OnChatMessage(Chat* chat, ChatMessage* message) override { heard("OnChatMessage", chat, message); }
+  void OnNewCustomContactGroup(ContactGroup* group) override { heard("OnNewCustomContactGroup", group); }
+  void OnContactOnlineAppearance(Contact* contact) override { heard("OnContactOnlineAppearance", contact); }
+  void OnIncomingPriceQuote(PriceQuote* quote) override { heard("OnIncomingPriceQuote", quote); }
+  void OnIncomingAlert(Alert* alert) override { heard("OnIncomingAlert", alert); }
 };
 
 class AnEvent : public testing::Test {

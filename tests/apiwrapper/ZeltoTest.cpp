@@ -30,19 +30,22 @@ class CountingRoot : public Zelto {
   std::vector<int> statuses;
 };
 
+// What the protocol logged while it did something.
+template <class Action>
+std::string logged(Action action) {
+  testing::internal::CaptureStderr();
+  action();
+  return testing::internal::GetCapturedStderr();
+}
+
+constexpr char kRunning[] = "e 1465 1519 1156=\"1132\"";  // an event: the service runs
+
 class ARoot : public testing::Test {
  protected:
   void start() {
     transport.incoming = {"#0 b 0=\"1211\""};
     ASSERT_EQ(root.Start(true, "10070/1.0.0.0/"), Zelto::START_SUCCESS);
     transport.written.clear();
-  }
-  // What the protocol logged while it did something.
-  template <class Action>
-  static std::string logged(Action action) {
-    testing::internal::CaptureStderr();
-    action();
-    return testing::internal::GetCapturedStderr();
   }
 
   MemoryTransport transport;
@@ -64,29 +67,22 @@ TEST_F(ARoot, StartsWithItsVersionsAndReadsTheResult) {
   EXPECT_EQ(root.Start(true, "10071/1.0.0.0/"), 1);
   EXPECT_THAT(transport.written,
               ElementsAre("#0  a 1465 1986 1553=\"10071/1.0.0.0/\" 1830=\"1.10\" 1482=\"1\""));
-  EXPECT_EQ(root.Start(false, "x"), 2);
-  EXPECT_EQ(transport.written.back(), "#1  a 1465 1986 1553=\"x\" 1830=\"1.10\" 1482=\"0\"");
-  EXPECT_EQ(root.Start(false, "x"), 3);
-  EXPECT_EQ(root.Start(false, "x"), 4);
-  EXPECT_EQ(root.Start(false, "x"), -1);
-  EXPECT_EQ(root.Start(false, "x"), -1) << "the stream has ended";
+  for (const int result : {2, 3, 4, -1, -1}) EXPECT_EQ(root.Start(false, "x"), result);
+  EXPECT_EQ(transport.written.back(), "#5  a 1465 1986 1553=\"x\" 1830=\"1.10\" 1482=\"0\"");
 }
 
 TEST_F(ARoot, NumbersItsRequestsInHexadecimal) {
-  for (int i = 0; i < 17; ++i)
-    transport.incoming.push_back("#" + std::string(1, "0123456789ABCDEF"[i % 16]) + " b ");
-  transport.incoming.back() = "#10 b ";
+  for (const char digit : std::string("0123456789ABCDEF"))
+    transport.incoming.push_back(std::string("#") + digit + " b ");
+  transport.incoming.emplace_back("#10 b ");
   for (int i = 0; i < 17; ++i) EXPECT_EQ(root.sendAndBlock("a 1465 1594"), "b ");
-  EXPECT_EQ(transport.written[0], "#0  a 1465 1594");
   EXPECT_EQ(transport.written[10], "#A  a 1465 1594");
   EXPECT_EQ(transport.written[16], "#10  a 1465 1594");
-  EXPECT_EQ(root.eventsWaitingCount(), 0U);
 }
 
 TEST_F(ARoot, QueuesWhatArrivesWhileItWaits) {
   start();
-  transport.incoming = {"e 1465 1519 1156=\"1132\"", "", "#7 b 0=\"other\"", "#1 b 0=\"mine\"",
-                        "#1 b 0=\"twice\""};
+  transport.incoming = {kRunning, "", "#7 b 0=\"other\"", "#1 b 0=\"mine\"", "#1 b 0=\"twice\""};
   EXPECT_EQ(root.sendBlockParse("1465 1594").find("0"), "mine");
   EXPECT_THAT(root.ready, ElementsAre(1, 2)) << "an empty message is no event";
   EXPECT_THAT(root.statuses, IsEmpty()) << "nothing is dispatched while waiting";
@@ -106,18 +102,15 @@ TEST_F(ARoot, ReadsAnErrorAsAnEmptyResult) {
   EXPECT_EQ(logged([&] { EXPECT_EQ(root.sendAndBlock("a 1465 1594"), "b "); }),
             "ZELTO ERROR - From ZelHost: #1 d 7 refused\n");
   EXPECT_EQ(root.sendAndBlock("a 1465 1594"), "b d=\"no error\"");
+  const std::string tooLong(0x01000000, 'x');
+  EXPECT_EQ(root.sendAndBlock(tooLong.c_str()), "b ") << "no reply comes to what the transport refuses";
   EXPECT_TRUE(root.sendAndBlock("a 1465 1594").isNull()) << "the stream has ended";
   EXPECT_FALSE(root.pollEvents(0));
 }
 
-TEST_F(ARoot, DoesNotWaitForAReplyToWhatTheTransportRefuses) {
-  const std::string tooLong(0x01000000, 'x');
-  EXPECT_EQ(root.sendAndBlock(tooLong.c_str()), "b ");
-}
-
 TEST_F(ARoot, DispatchesTenEventsAPass) {
   start();
-  for (int i = 0; i < 11; ++i) transport.incoming.push_back("e 1465 1519 1156=\"1132\"");
+  for (int i = 0; i < 11; ++i) transport.incoming.push_back(kRunning);
   transport.incoming.push_front("b late");
   transport.incoming.push_front("d 3 broken");
   root.pollEvents(0);
@@ -136,7 +129,7 @@ TEST_F(ARoot, CountsUnknownEventsButNotMalformedOnes) {
     transport.incoming.push_back("e 2097 2073");  // no name
     transport.incoming.push_back("e");
   }
-  transport.incoming.push_back("e 1465 1519 1156=\"1132\"");
+  transport.incoming.push_back(kRunning);
   EXPECT_THAT(logged([&] { root.pollEvents(0); }),
               StartsWith("ZELTO ERROR - Unknown event: 777\n"
                          "ZELTO ERROR - Error parsing event: e 1133 1122\n"
@@ -149,25 +142,23 @@ TEST_F(ARoot, CountsUnknownEventsButNotMalformedOnes) {
 
 TEST_F(ARoot, EndsThePassAtAnObjectIdOfZero) {
   start();
-  transport.incoming = {"e 1133 1122 1137=\"0\"", "e 1465 1519 1156=\"1132\"", "e 1133 1122 1137=\"call\"",
-                        "e 1465 1519 1156=\"1132\""};
+  transport.incoming = {"e 1133 1122 1137=\"0\"", kRunning, "e 1133 1122 1137=\"call\"", kRunning};
   root.pollEvents(0);
-  EXPECT_THAT(root.statuses, IsEmpty());
-  root.runQueue();
-  EXPECT_THAT(root.statuses, SizeIs(1));
-  root.runQueue();
-  EXPECT_THAT(root.statuses, SizeIs(2));
+  for (const unsigned int heard : {0U, 1U, 2U}) {
+    EXPECT_THAT(root.statuses, SizeIs(heard));
+    root.runQueue();
+  }
 }
 
 TEST_F(ARoot, HearsOnlyOfItselfBeforeItsStart) {
-  transport.incoming = {"e 1133 1122 1137=\"8\"", "e 2097 2073", "e 1465 1519 1156=\"1132\""};
+  transport.incoming = {"e 1133 1122 1137=\"8\"", "e 2097 2073", kRunning};
   EXPECT_EQ(logged([&] { root.pollEvents(0); }), "");
   EXPECT_EQ(root.getObject(8), nullptr);
   EXPECT_THAT(root.statuses, SizeIs(1));
 }
 
 TEST_F(ARoot, ForgetsTheEarlierConversationAtItsStart) {
-  transport.incoming = {"e 1465 1519 1156=\"1132\"", "#0 b "};
+  transport.incoming = {kRunning, "#0 b "};
   root.sendAndBlock("a 1465 1594");
   root.getAccount(5);
   transport.incoming = {"#1 b 0=\"1211\""};
@@ -178,7 +169,7 @@ TEST_F(ARoot, ForgetsTheEarlierConversationAtItsStart) {
 
 TEST_F(ARoot, StopsWithOrWithoutWaiting) {
   start();
-  transport.incoming = {"e 1465 1519 1156=\"1132\"", "#1 b "};
+  transport.incoming = {kRunning, "#1 b "};
   root.Stop(true);
   EXPECT_THAT(transport.written, ElementsAre("#1  a 1465 1386 1482=\"1\""));
   EXPECT_THAT(root.statuses, SizeIs(1)) << "what was queued is still dispatched";
@@ -188,21 +179,19 @@ TEST_F(ARoot, StopsWithOrWithoutWaiting) {
 
 TEST_F(ARoot, NamesTheProxiesThatAreLeftAtItsStop) {
   start();
-  root.getAccount(770);  // shares a bucket with 1
-  root.getAccount(1);
-  root.getAccount(5);
+  for (const unsigned int oid : {770U, 1U, 5U}) root.getAccount(oid);  // 770 shares a bucket with 1
+  const std::string lines = "2046 object, OID: 770\n2046 object, OID: 1\n2046 object, OID: 5\n";
   EXPECT_EQ(logged([&] { root.dumpObjectList(); }),
-            "ZELTO - Objects currently created in wrapper:\n2046 object, OID: 770\n"
-            "2046 object, OID: 1\n2046 object, OID: 5\n");
+            "ZELTO - Objects currently created in wrapper:\n" + lines);
   EXPECT_EQ(logged([&] { root.Stop(false); }),
-            "ZELTO - Exiting, following objects haven't been deleted, check if you have no memory leaks:\n"
-            "2046 object, OID: 770\n2046 object, OID: 1\n2046 object, OID: 5\n");
+            "ZELTO - Exiting, following objects haven't been deleted, check if you have no memory leaks:\n" +
+                lines);
   EXPECT_EQ(root.getObject(5), nullptr);
 }
 
 TEST_F(ARoot, ReadsOneMessageOrMoreWhenToldToWait) {
   start();
-  transport.incoming = {"e 1465 1519 1156=\"1132\"", "e 1465 1519 1156=\"1132\""};
+  transport.incoming = {kRunning, kRunning};
   EXPECT_TRUE(root.pollEvents(-1));
   EXPECT_THAT(root.statuses, SizeIs(2));
   EXPECT_TRUE(root.pollEvents(-1)) << "the end of the stream shows at the next poll";
@@ -244,10 +233,10 @@ TEST_F(AConversation, GoesOnWhileEventsArriveBetweenRequestAndReply) {
     self.answer(request, "");  // once too often
   });
   for (int i = 0; i < 50; ++i) ASSERT_EQ(root.getAccount(5)->GetProp(1), "a, \"b\"");
-  testing::internal::CaptureStderr();
-  while (root.statuses.size() < 50U && root.pollEvents(1000)) {
-  }
-  testing::internal::GetCapturedStderr();
+  logged([&] {
+    while (root.statuses.size() < 50U && root.pollEvents(1000)) {
+    }
+  });
   EXPECT_THAT(root.statuses, SizeIs(50));
 }
 
@@ -281,10 +270,10 @@ TEST_F(AConversation, SurvivesEveryReplyThatIsNoReply) {
       self.sendMessage(bytes);
       self.answer(request, ScriptedRuntime::pair("0", "1"));
     });
-    testing::internal::CaptureStderr();
-    EXPECT_TRUE(root.Ping()) << bytes;
-    root.pollEvents(0);
-    testing::internal::GetCapturedStderr();
+    logged([&] {
+      EXPECT_TRUE(root.Ping()) << bytes;
+      root.pollEvents(0);
+    });
   }
 }
 

@@ -15,6 +15,9 @@ namespace test {
 
 class ATour : public ATelevision {
  protected:
+  ATour();
+  ~ATour() override;
+
   // What the fault that the runtime has been told does to a tour; the less is left of it, the less patience.
   enum class Damage {
     None,      // every step gets its answer and its event
@@ -33,16 +36,14 @@ class ATour : public ATelevision {
   bool Returned() const { return m_returned; }
   // The frames, both directions together, that the runtime counted during the last tour.
   int Frames() const { return m_frames; }
-  // The bytes of the longest frame that it sent, the length in front included.
-  int LongestFrame() const { return m_longestFrame; }
   // Whether the fault was yet to strike when the last tour was over; a runtime that has died cannot tell.
   bool FaultStillWaits() const { return m_faultWaits; }
 
   // Fault-free, after whatever came before: everything works.
   void VerifySurvival();
 
-  // Whether the runtime of the last tour lives.
-  bool IsAlive() const;
+  // Whether the process lives, and is not just waiting to be reaped.
+  static bool Lives(pid_t process);
 
  private:
   bool TakeSteps(IMoIPEngine& engine);
@@ -59,7 +60,6 @@ class ATour : public ATelevision {
   pid_t m_runtime = 0;
   bool m_returned = false;
   int m_frames = 0;
-  int m_longestFrame = 0;
   bool m_faultWaits = false;
   std::string m_firstMiss;
 };

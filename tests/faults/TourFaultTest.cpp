@@ -8,11 +8,13 @@ namespace test {
 namespace {
 
 // The loops are cut into shares, so that they run side by side and a failure tells where.
-constexpr int kShares = 4;
+constexpr int kShares = 2;
 // After so many tours under faults one without tells whether the engine is still whole.
 constexpr int kToursPerSurvival = 10;
 // More replies than a tour has by far.
 constexpr int kTooManyReplies = 1000;
+// Long frames are cut at several bytes at once, this far apart, so that few tours cut each at every byte.
+constexpr int kPiece = 64;
 
 class ATourInShares : public ATour, public ::testing::WithParamInterface<int> {
  protected:
@@ -43,8 +45,8 @@ class ATourInShares : public ATour, public ::testing::WithParamInterface<int> {
     ForEach(kTooManyReplies, [&](int k) {
       FollowScenario("reply " + fault + " after=" + std::to_string(k - 1) + "\n");
       const bool whole = Run(damage);
-      if (damage == Damage::None) EXPECT_TRUE(whole) << FirstMiss();
-      if (damage != Damage::Hanging) EXPECT_TRUE(Returned());
+      EXPECT_TRUE(whole || damage != Damage::None) << FirstMiss();
+      EXPECT_TRUE(Returned() || damage == Damage::Hanging);
       EXPECT_LT(k, kTooManyReplies / 2);
       return !FaultStillWaits();
     });
@@ -72,7 +74,7 @@ TEST_P(ATourInShares, CanBeSwitchedOffWhenAnyReplyNamesAnotherRequest) {
   ForEachReply("other-id", Damage::Hanging);
 }
 
-TEST_P(ATourInShares, IsWholeWhenAnyReplyComesLate) { ForEachReply("delay milliseconds=30", Damage::None); }
+TEST_P(ATourInShares, IsWholeWhenAnyReplyComesLate) { ForEachReply("delay milliseconds=300", Damage::None); }
 
 TEST_P(ATourInShares, IsWholeWhenAnyReplyComesTwice) { ForEachReply("repeat", Damage::None); }
 
@@ -83,8 +85,8 @@ TEST_P(ATourInShares, ReturnsWhenAnyReplyIsEmpty) { ForEachReply("empty", Damage
 TEST_P(ATourInShares, ReturnsWhenAnyReplyIsGarbled) { ForEachReply("garble", Damage::SomeGone); }
 
 TEST_P(ATourInShares, IsWholeWhereverItsFramesAreSplit) {
-  ForEach(LongestFrame() - 1, [&](int byte) {
-    FollowScenario("split byte=" + std::to_string(byte) + '\n');
+  ForEach(kPiece, [&](int byte) {
+    FollowScenario("split byte=" + std::to_string(byte) + " every=" + std::to_string(kPiece) + '\n');
     EXPECT_TRUE(Run()) << FirstMiss();
     return true;
   });

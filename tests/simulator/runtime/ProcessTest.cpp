@@ -144,14 +144,19 @@ TEST_F(TheRuntime, DiesAtEveryFrameThatItIsToldTo) {
 }
 
 TEST_F(TheRuntime, SplitsEveryFrameWhereItIsToldTo) {
-  for (const int byte : {1, 3, 4, 5, 9}) {
-    runtime.Start({}, Scenario("split " + std::to_string(byte)));
+  for (const char* split : {"split 1", "split 3", "split 4", "split 5", "split 9", "split byte=2 every=3"}) {
+    runtime.Start({}, Scenario(split));
     Client engine(runtime.Socket());
     EXPECT_EQ("b 0=\"1211\"", engine.Ask(kStart));
     EXPECT_EQ("b 0=\"1\"", engine.Ask(kPing));
     EXPECT_EQ("b ", engine.Ask(kStop));
     EXPECT_EQ(0, runtime.Wait());
   }
+}
+
+TEST_F(TheRuntime, WaitsSoManyTimesLessAtAFasterPace) {
+  runtime.Start({"--pace", "1000"}, Scenario("wait 60000\nexit status=5"));
+  EXPECT_EQ(5, WEXITSTATUS(runtime.Wait()));
 }
 
 TEST_F(TheRuntime, TakesOrdersAtItsDoor) {
