@@ -95,13 +95,16 @@ int WaitForBatch(SHMIPC_channel_t* channel, ChannelLock& lock, int timeout) {
   return 0;
 }
 
-// The batch is this process's own memory, but its content is the other side's: a length that goes beyond
-// it makes the rest unreadable, now and at every later call.
+// The batch is this process's own memory, but its content is the other side's: behind a length that goes
+// beyond it nothing can be told apart any more, so the rest of the batch is dropped.
 SHMIPC_packet_t* NextInBatch(SHMIPC_channel_t* channel) {
   const std::uint32_t left = channel->batch_count - channel->batch_offset;
   auto* const packet = reinterpret_cast<SHMIPC_packet_t*>(channel->batch + channel->batch_offset);
   const std::uint64_t footprint = Footprint(packet->length);
-  if (footprint > left) return nullptr;
+  if (footprint > left) {
+    channel->batch_offset = channel->batch_count;
+    return nullptr;
+  }
   channel->batch_offset += static_cast<std::uint32_t>(footprint);
   return packet;
 }
