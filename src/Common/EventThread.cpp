@@ -24,17 +24,23 @@ bool EventThread::Start() {
   return m_started;
 }
 
+void EventThread::RequestStop() {
+  m_deadline = System().Now() + kLastPassNanoseconds;
+  m_running = false;
+}
+
 void EventThread::Stop() {
   if (!m_started) return;
   ZELTO_ASSERT(!pthread_equal(m_thread, pthread_self()));
-  m_deadline = System().Now() + kLastPassNanoseconds;
-  m_running = false;
+  if (m_running) RequestStop();
   pthread_join(m_thread, nullptr);
   m_started = false;
 }
 
 void* EventThread::Body(void* self) {
-  static_cast<EventThread*>(self)->MainThread();
+  auto* const thread = static_cast<EventThread*>(self);
+  thread->MainThread();
+  thread->m_ended = true;
   return nullptr;
 }
 

@@ -23,8 +23,11 @@ class EventThread {
 
   // False when the thread can't be started.
   bool Start();
-  // Lets the thread finish its pass, for a second at most, and waits until it has ended. It ends as soon as
-  // the handler or the host function that it is in has returned. Not on the thread itself.
+  // Lets the thread finish its pass, for a second at most. It ends as soon as the handler or the host
+  // function that it is in has returned.
+  void RequestStop();
+  bool HasEnded() const { return m_ended; }
+  // The same, and waits until it has ended. Not on the thread itself.
   void Stop();
 
   // One pass. For the thread, and for whoever runs none.
@@ -39,6 +42,7 @@ class EventThread {
   pthread_t m_thread{};
   bool m_started = false;
   std::atomic<bool> m_running{true};
+  std::atomic<bool> m_ended{false};
   std::atomic<std::int64_t> m_deadline{0};  // of the last pass, once m_running is clear
   ReactionState m_reactions;
 };

@@ -120,6 +120,11 @@ int Platform::MakeDirectory(const char* path, mode_t mode) { return mkdir(path, 
 
 int Platform::Unlink(const char* path) { return unlink(path); }
 
+void Platform::LimitBlocking(int descriptor, int milliseconds) {
+  const timeval limit{milliseconds / 1000, milliseconds % 1000 * 1000};
+  setsockopt(descriptor, SOL_SOCKET, SO_SNDTIMEO, &limit, sizeof limit);
+}
+
 int Platform::LockFile(int descriptor) {
   struct flock whole {};
   whole.l_type = F_WRLCK;

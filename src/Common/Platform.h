@@ -81,6 +81,8 @@ class Platform {
   // Takes the write lock over the whole file without waiting; -1 with errno when another process has it.
   // It ends with the descriptor.
   virtual int LockFile(int descriptor);
+  // How long a connection or a write may block, 0 for ever. Failures are ignored.
+  virtual void LimitBlocking(int descriptor, int milliseconds);
   // Writes what the system still holds to the disks.
   virtual void Sync();
 

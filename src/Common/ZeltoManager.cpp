@@ -15,6 +15,7 @@
 #include "Common/HistoryManager.h"
 #include "Common/HostControl.h"
 #include "Common/Log.h"
+#include "Common/Platform.h"
 #include "Common/ZeltoImp.h"
 #include "zelhost/ZelhostLifeCycle.h"
 
@@ -127,10 +128,10 @@ CZeltoManager::CZeltoManager() {
 }
 
 CZeltoManager::~CZeltoManager() noexcept {
-  // A runtime that keeps the event thread or a command waiting must not keep the engine.
-  CZelhostLifeCycle::BeginShutdown();
   ZELTO_DEBUG("CZeltoManager::Destructor 1");
-  m_eventThread.Stop();
+  StopEventThread();
+  // From here on a runtime that keeps anybody waiting must not keep the engine.
+  CZelhostLifeCycle::BeginShutdown();
   ZELTO_DEBUG("CZeltoManager::Destructor 1.1");
   Guard("ending the call", [] { EndCall(); });
   ZELTO_DEBUG("CZeltoManager::Destructor 2");
@@ -144,6 +145,24 @@ CZeltoManager::~CZeltoManager() noexcept {
   ZELTO_DEBUG("CZeltoManager::Destructor 6");
   s_instance.store(nullptr, std::memory_order_release);
   ZELTO_DEBUG("CZeltoManager::Destructor Done");
+}
+
+// The thread may be waiting for the service host, which a runtime that does not answer keeps busy: that one
+// is killed. It may also be in a host function, and that is no reason to kill anybody.
+void CZeltoManager::StopEventThread() {
+  constexpr int kPatience = 3000;  // milliseconds
+  constexpr int kStep = 10;
+  m_eventThread.RequestStop();
+  while (!m_eventThread.HasEnded()) {
+    zelhost::ServiceHostMutex& serviceHost = zelhost::ServiceHostMutex::Get();
+    if (serviceHost.LockWithin("engine_destroy", kPatience)) {
+      serviceHost.Unlock();
+      zelto::SleepMilliseconds(kStep);
+    } else {
+      CZelhostLifeCycle::KillRuntime();
+    }
+  }
+  m_eventThread.Stop();
 }
 
 void CZeltoManager::EndCall() {

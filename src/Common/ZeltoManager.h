@@ -158,6 +158,7 @@ class CZeltoManager final : public IMoIPEngine, public EngineEventTypes {
   static CZeltoManagerImp* CreateZeltoManagerImp();
   static void DeleteZeltoManagerImp();
 
+  void StopEventThread();
   static void EndCall();
 
   zelto::EventThread m_eventThread;

@@ -30,9 +30,17 @@ bool makeAddress(const ZEString& path, sockaddr_un* address) {
   return true;
 }
 
+// A listener whose queue is full would keep the caller for as long as it likes.
+constexpr int kLongestConnect = 500;  // milliseconds
+
 bool connectTo(int descriptor, const sockaddr_un& address) {
-  return zelto::System().Connect(descriptor, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) ==
-         0;
+  zelto::Platform& system = zelto::System();
+  system.LimitBlocking(descriptor, kLongestConnect);
+  const int result = system.Connect(descriptor, reinterpret_cast<const sockaddr*>(&address), sizeof(address));
+  const int error = errno;
+  system.LimitBlocking(descriptor, 0);
+  errno = error;
+  return result == 0;
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include <algorithm>
 #include <vector>
 
 #include "Common/DevicePath.h"
@@ -26,6 +27,24 @@ std::weak_ptr<RuntimeProcess> g_current ZELTO_GUARDED_BY(g_currentLock);
 void MakeCurrent(const std::shared_ptr<RuntimeProcess>& process) {
   zelto::MutexLock lock(g_currentLock);
   g_current = process;
+}
+
+// Killed ones that the system did not let end in time, as with a disk that does not answer: whoever starts
+// or ends the next one collects them.
+std::vector<pid_t> g_late ZELTO_GUARDED_BY(g_currentLock);
+
+void LeaveToTheNext(pid_t pid) {
+  zelto::MutexLock lock(g_currentLock);
+  g_late.push_back(pid);
+}
+
+void ReapLateOnes() {
+  zelto::MutexLock lock(g_currentLock);
+  const auto hasEnded = [](pid_t pid) {
+    int status = 0;
+    return zelto::System().WaitPid(pid, &status, WNOHANG) != 0;
+  };
+  g_late.erase(std::remove_if(g_late.begin(), g_late.end(), hasEnded), g_late.end());
 }
 
 // The engine's own variables with the engine's home as the runtime's.
@@ -57,6 +76,7 @@ zelto::SpawnRequest MakeRequest(const std::string& executable, const std::string
 std::shared_ptr<RuntimeProcess> RuntimeProcess::Start(const std::string& executable,
                                                       const std::string& clockDifference) {
   ZELTO_DEBUG("[StartZelhost] Enter execv (cmd:%s) \n", executable.c_str());
+  ReapLateOnes();
   const pid_t pid = zelto::System().Spawn(MakeRequest(executable, clockDifference));
   if (pid <= 0) return nullptr;
   const std::shared_ptr<RuntimeProcess> process(new RuntimeProcess(pid));
@@ -77,9 +97,10 @@ std::shared_ptr<RuntimeProcess> RuntimeProcess::Current() {
 RuntimeProcess::~RuntimeProcess() {
   m_stopGuard = true;
   CZeltoThread::Destroy();
+  ReapLateOnes();
   if (!IsRunning()) return;
   Kill();
-  WaitForEnd();
+  if (!WaitForEnd()) LeaveToTheNext(m_pid);
 }
 
 // A host that ignores or collects its children takes the status away: no such child means ended.

@@ -26,7 +26,8 @@ class RuntimeProcess : private zelto::CZeltoThread {
   // The one that runs, or null.
   static std::shared_ptr<RuntimeProcess> Current();
 
-  // Kills and reaps what is left, and ends the guard.
+  // Kills and reaps what is left, and ends the guard. A process that the system does not let end even then
+  // is reaped when the next one starts or goes.
   ~RuntimeProcess() override;
 
   // 0 once it has been reaped.

@@ -4,12 +4,6 @@
 
 namespace zelhost {
 
-namespace {
-
-constexpr int kReportEvery = 10'000;  // milliseconds: often enough to notice, rare enough for a log
-
-}  // namespace
-
 ServiceHostMutex& ServiceHostMutex::Get() {
   static ServiceHostMutex& mutex = *new ServiceHostMutex;
   return mutex;
@@ -26,10 +20,12 @@ bool ServiceHostMutex::Take(const char* who, int milliseconds) {
 }
 
 void ServiceHostMutex::Lock(const char* who) ZELTO_NO_THREAD_SAFETY_ANALYSIS {
-  for (int seconds = kReportEvery / 1000; !Take(who, kReportEvery); seconds += kReportEvery / 1000) {
-    zelto::Print("%s has been waiting for the service host for %d s, which is busy with %s", who, seconds,
-                 m_holder.load(std::memory_order_relaxed));
-  }
+  for (int waited = kReportEvery; !Take(who, kReportEvery); waited += kReportEvery) ReportWait(who, waited);
+}
+
+void ServiceHostMutex::ReportWait(const char* who, int milliseconds) const {
+  zelto::Print("%s has been waiting for the service host for %d s, which is busy with %s", who,
+               milliseconds / 1000, m_holder.load(std::memory_order_relaxed));
 }
 
 bool ServiceHostMutex::LockWithin(const char* who, int milliseconds) ZELTO_NO_THREAD_SAFETY_ANALYSIS {

@@ -24,6 +24,9 @@ class ZELTO_CAPABILITY("service-host mutex") ServiceHostMutex {
   void Lock(const char* who) ZELTO_ACQUIRE();
   // False when it could not be had within that time.
   bool LockWithin(const char* who, int milliseconds) ZELTO_TRY_ACQUIRE(true);
+  // The line that Lock prints. For who waits in steps of LockWithin, every kReportEvery milliseconds.
+  void ReportWait(const char* who, int milliseconds) const;
+  static constexpr int kReportEvery = 10'000;  // often enough to notice, rare enough for a log
   // The caller holds it; other callers change nothing.
   void Unlock() ZELTO_RELEASE();
 

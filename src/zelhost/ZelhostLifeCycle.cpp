@@ -173,6 +173,10 @@ void CZelhostLifeCycle::BeginShutdown() {
   if (const auto process = RuntimeProcess::Current()) process->KillIn(zelhost::kPatienceWhenUnloading);
 }
 
+void CZelhostLifeCycle::KillRuntime() {
+  if (const auto process = RuntimeProcess::Current()) process->Kill();
+}
+
 bool CZelhostLifeCycle::GetAutoStart() {
   ServiceHostLock lock("GetAutoStart");
   const bool automatic = CZeltoManager::CallCommonControl("GetAutoStart") == "1";

@@ -63,6 +63,8 @@ class CZelhostLifeCycle : private zelto::CZeltoThread {
   // Called when the engine is about to be destroyed: from now on a runtime that keeps anybody waiting
   // is killed 3 seconds later, which releases whoever waits. Does nothing when no runtime was started.
   static void BeginShutdown();
+  // Kills the runtime now, which releases whoever waits for it. Does nothing when there is none.
+  static void KillRuntime();
 
  private:
   void t_Main() override;

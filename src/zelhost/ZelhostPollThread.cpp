@@ -39,8 +39,14 @@ const char* StartError(int result) {
 
 template <class Step>
 bool CZelhostLifeCycle::UnlessStopping(const char* who, Step step) {
+  ServiceHostMutex& mutex = ServiceHostMutex::Get();
+  int waited = 0;
   while (!m_stop) {
-    if (!ServiceHostMutex::Get().LockWithin(who, zelhost::kStep)) continue;
+    if (!mutex.LockWithin(who, zelhost::kStep)) {
+      waited += zelhost::kStep;
+      if (waited % ServiceHostMutex::kReportEvery == 0) mutex.ReportWait(who, waited);
+      continue;
+    }
     ServiceHostLock lock(std::adopt_lock);
     if (m_stop) return false;
     step();
