@@ -1,80 +1,49 @@
 #include "Common/EventReactions.h"
 
-#include <gtest/gtest.h>
-
 #include "Common/AccountManager.h"
 #include "Common/CallManager.h"
 #include "Common/ContactManager.h"
-#include "Common/ZeltoManager.h"
-#include "tests/Common/FakeService.h"
-#include "tests/Common/TestHost.h"
+#include "tests/Common/EngineFixture.h"
 
 namespace {
 
 using test::FakeService;
-using Log = std::vector<std::string>;
+using test::Log;
 
 // Reactions alone, on the test's own thread.
-class AnEngine : public testing::Test {
+class AnEngine : public test::EngineFixture {
  protected:
-  AnEngine() : engine(host.StartEngine()) {
-    CZeltoManager::GetZeltoManagerImp();
+  AnEngine() {
     CAccountManager::GetInstance();
     CContactManager::GetInstance();
     CCallManager::GetInstance();
   }
-  ~AnEngine() override { CZeltoManager::Destroy(engine); }
 
   Log After(int type, int param = 0) {
     zelto::ReactToEvent({type, param, 0}, state);
     return host.TakeLog();
   }
 
-  test::TestHost host;
-  IMoIPEngine* const engine;
   zelto::ReactionState state;
 };
 
-TEST_F(AnEngine, TellsTheHostWhatTheServiceMeans) {
-  const struct {
-    int type;
-    Log host;
-  } reactions[] = {
-      {256, {"19(null, null)"}},
-      {257, {"20(null, null)"}},
-      {262, {"8(null, null)"}},
-      {263, {"9(null, null)"}},
-      {267, {"7(null, null)"}},
-      {277, {}},
-      {282, {}},
-      {289, {"7(null, null)"}},
-      {291, {"9(null, null)"}},
-      {294, {}},
-      {303, {"9(null, null)"}},
-      {304, {}},
-      {307, {}},
-      {378, {"22(null, null)"}},
-      {371, {"4(null, null)"}},
-      {417, {"24(null, null)"}},
-      {424, {}},
-      {425, {}},
-      {426, {}},
-      {255, {}},
-      {258, {}},
-      {427, {}},
-      {100000, {}},
-      {199111, {}},
-      {-1, {}},
-      {423, {"23(Resource/zelto_bg.png, null)"}},
-  };
-  for (const auto& reaction : reactions) EXPECT_EQ(After(reaction.type), reaction.host) << reaction.type;
+TEST_F(AnEngine, TellsTheHostWhatTheServiceMeansAndNothingElse) {
+  const std::map<int, std::string> told = {
+      {256, "19(null, null)"}, {257, "20(null, null)"}, {262, "8(null, null)"},
+      {263, "9(null, null)"},  {267, "7(null, null)"},  {289, "7(null, null)"},
+      {291, "9(null, null)"},  {303, "9(null, null)"},  {371, "4(null, null)"},
+      {378, "22(null, null)"}, {417, "24(null, null)"}, {423, "23(Resource/zelto_bg.png, null)"}};
+  std::vector<int> types = {-1, 100000, 199111, 2147483647};
+  for (int type = 250; type < 440; ++type) types.push_back(type);
+  for (int type : types) {
+    const auto expected = told.find(type);
+    EXPECT_EQ(After(type), expected != told.end() ? Log{expected->second} : Log{}) << type;
+  }
 }
 
 TEST_F(AnEngine, UnmutesTheSpeakerForARingWhileTheWidgetIsShown) {
   FakeService::host->widgetShown = true;
-  EXPECT_EQ(After(262), (Log{"8(null, null)", "MuteSpeakerVolume[0]"}));
-  EXPECT_EQ(After(267), (Log{"7(null, null)", "MuteSpeakerVolume[0]"}));
-  EXPECT_EQ(After(289), (Log{"7(null, null)", "MuteSpeakerVolume[0]"}));
+  for (int ring : {262, 267, 289}) EXPECT_EQ(After(ring).at(1), "MuteSpeakerVolume[0]") << ring;
   EXPECT_EQ(After(378), Log{});
 }
 
@@ -92,37 +61,31 @@ TEST_F(AnEngine, KeepsWhetherSomebodyIsSignedInAndOnline) {
 }
 
 TEST_F(AnEngine, ReportsTheContactWhoseStateChanged) {
-  EXPECT_EQ(After(349, 7), Log{});
-  FakeService::contacts->changed = "ann";
-  FakeService::contacts->statuses["ann"] = 3;
+  FakeService::answers = {{"changed", "ann"}, {"status ann", "3"}};
   EXPECT_EQ(After(349, 7), Log{"21(ann, 3)"});
 }
 
 TEST_F(AnEngine, SignsInAutomaticallyWhenTheHostWantsItAndNobodyIs) {
-  After(371);
-  EXPECT_EQ(FakeService::account->logins, 0);
-  FakeService::host->autoStart = true;
-  After(371);
-  EXPECT_EQ(FakeService::account->logins, 1);
-  FakeService::account->loginState = 1;
-  After(371);
-  EXPECT_EQ(FakeService::account->logins, 1);
+  recording::TheNotes().noting = true;
+  for (const auto& [wanted, loginState] : {std::pair{false, 0}, {true, 1}, {true, 0}}) {
+    FakeService::host->autoStart = wanted;
+    FakeService::account->loginState = loginState;
+    After(371);
+  }
+  EXPECT_EQ(recording::TheNotes().calls, Log{"Login(null, null, true)"});
+  recording::TheNotes() = {};
 }
 
-TEST_F(AnEngine, SilencesTheSpeakerBehindTheConnectingScreenOfACall) {
+TEST_F(AnEngine, SilencesTheSpeakerBehindTheConnectingScreenAlsoWhenTheCallEndsMeanwhile) {
   FakeService::call->inCall = true;
-  host.SetAnswer("GetSpeakerVolume", "37");
+  host.answers["GetSpeakerVolume"] = "37 percent";
   EXPECT_EQ(After(423),
             (Log{"GetSpeakerVolume[]", "SetSpeakerVolume[0]", "23(Resource/zelto_bg.png, null)"}));
-  host.SetAnswer("GetSpeakerVolume", "0");
+  host.answers["GetSpeakerVolume"] = "0";
   After(423);  // shown twice: still 37
   EXPECT_EQ(After(417), (Log{"24(null, null)", "MuteSpeakerVolume[0]", "SetSpeakerVolume[37]"}));
   EXPECT_EQ(After(417), (Log{"24(null, null)", "MuteSpeakerVolume[0]"}));
-}
-
-TEST_F(AnEngine, GivesTheSpeakerBackAlsoWhenTheCallIsOver) {
-  FakeService::call->inCall = true;
-  host.SetAnswer("GetSpeakerVolume", "12 percent");
+  host.answers["GetSpeakerVolume"] = "12";
   After(423);
   FakeService::call->inCall = false;
   EXPECT_EQ(After(417), (Log{"24(null, null)", "SetSpeakerVolume[12]"}));

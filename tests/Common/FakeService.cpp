@@ -11,24 +11,20 @@ CZeltoManagerImp* CZeltoImp::CreateZeltoManagerImp() { return FakeService::host 
 CAccountManagerImp* CZeltoImp::CreateAccountManagerImp() {
   return FakeService::account = new test::FakeAccount;
 }
-CContactManagerImp* CZeltoImp::CreateContactManagerImp() {
-  return FakeService::contacts = new test::FakeContacts;
-}
+CContactManagerImp* CZeltoImp::CreateContactManagerImp() { return new test::FakeContacts; }
 CCallManagerImp* CZeltoImp::CreateCallManagerImp() { return FakeService::call = new test::FakeCall; }
-CHistoryManagerImp* CZeltoImp::CreateHistoryManagerImp() {
-  return FakeService::history = new test::FakeHistory;
-}
-CChatManagerImp* CZeltoImp::CreateChatManagerImp() { return new test::FakeChat; }
+CHistoryManagerImp* CZeltoImp::CreateHistoryManagerImp() { return new test::FakeHistory; }
+CChatManagerImp* CZeltoImp::CreateChatManagerImp() { return new recording::ChatManager; }
 
 void CZelhostLifeCycle::BeginShutdown() {
   if (FakeService::onBeginShutdown) FakeService::onBeginShutdown();
 }
 
-namespace test {
-
-// As the real one does it: through its own facade, which is still being made.
-void FakeAccount::Init() {
-  CZeltoManager::SetEventHandler(CZeltoManager::ACCOUNT_LOGGED_OUT, CAccountManager::GetInstance());
+void CZelhostLifeCycle::KillRuntime() {
+  if (FakeService::onKillRuntime) FakeService::onKillRuntime();
 }
 
-}  // namespace test
+// As the real one does it: through its own facade, which is still being made.
+void test::FakeAccount::Init() {
+  CZeltoManager::SetEventHandler(CZeltoManager::ACCOUNT_LOGGED_OUT, CAccountManager::GetInstance());
+}

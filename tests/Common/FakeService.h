@@ -3,10 +3,11 @@
 #pragma once
 
 #include <atomic>
+#include <cstdlib>
 #include <functional>
 #include <map>
+#include <sstream>
 #include <string>
-#include <utility>
 
 #include "tests/Common/FakeServiceHost.h"
 #include "tests/support/RecordingManagers.h"
@@ -14,104 +15,84 @@
 namespace test {
 
 using Hook = std::function<bool(const CZeltoEvent*)>;
-
 inline bool Run(const Hook& hook, const CZeltoEvent* event) { return hook ? hook(event) : true; }
 
-// The text under a key; null without one.
-template <class Key>
-const char* TextOf(const std::map<Key, std::string>& texts, const Key& key) {
-  const auto found = texts.find(key);
-  return found != texts.end() ? found->second.c_str() : nullptr;
-}
+// What the factories made last, and what is asked of the runtime.
+struct FakeService {
+  static inline FakeServiceHost* host = nullptr;
+  static inline struct FakeAccount* account = nullptr;
+  static inline struct FakeCall* call = nullptr;
+  static inline std::function<void()> onBeginShutdown;
+  static inline std::function<void()> onKillRuntime;
+
+  // By question: "contact 3 1" is property 1 of the contact at 3. Others are answered by null or -1.
+  using Answers = std::map<std::string, std::string>;
+  static inline Answers answers;
+
+  template <class... Parts>
+  static const char* Text(const char* kind, const Parts&... parts) {
+    std::ostringstream question;
+    question << kind;
+    ((question << ' ' << parts), ...);
+    const auto found = answers.find(question.str());
+    return found != answers.end() ? found->second.c_str() : nullptr;
+  }
+  static int Number(const char* kind, const char* name) {
+    const char* text = Text(kind, name);
+    return text != nullptr ? std::atoi(text) : -1;
+  }
+};
 
 // Counts its objects.
 template <class Kind>
 struct Counted {
   Counted() { ++made, ++alive; }
-  Counted(const Counted&) = delete;
-  Counted& operator=(const Counted&) = delete;
   ~Counted() { --alive; }
-  static inline std::atomic<int> made{0};
-  static inline std::atomic<int> alive{0};
+  static inline std::atomic<int> made{0}, alive{0};
 };
 
 struct FakeAccount : recording::AccountManager, Counted<FakeAccount> {
   void Init() override;
   bool OnEvent(const CZeltoEvent* event) override { return Run(onEvent, event); }
-  bool Login(const char* name, const char* password, bool automatic) override {
-    return ++logins, name == nullptr && password == nullptr && automatic;
-  }
   int GetLoginState() override { return loginState; }
-  const char* GetAccountInfo(int property) override { return TextOf(info, property); }
+  const char* GetAccountInfo(int property) override { return FakeService::Text("account", property); }
 
   Hook onEvent;
-  int logins = 0;
+  int lastParam = 0;
   int loginState = 0;
-  std::map<int, std::string> info;
 };
 
-struct FakeContacts : recording::ContactManager, Counted<FakeContacts> {
+struct FakeContacts : recording::ContactManager {
   const char* GetContactInfo(int index, int property) override {
-    return TextOf(byIndex, std::make_pair(index, property));
+    return FakeService::Text("contact", index, property);
   }
   const char* GetContactInfo(const char* name, int property) override {
-    return TextOf(byName, std::make_pair(std::string(name), property));
+    return FakeService::Text("contact", name, property);
   }
-  const char* FindContactWithEmail(const char* email) override { return TextOf(byEmail, std::string(email)); }
-  const char* GetContactImage(const char* name) override {
-    return ++imagesAsked, TextOf(images, std::string(name));
-  }
-  int GetContactStatus(const char* name) override {
-    const auto found = statuses.find(name);
-    return found != statuses.end() ? found->second : -1;
-  }
-  const char* GetStateChangedContact() override { return changed.empty() ? nullptr : changed.c_str(); }
-
-  std::map<std::pair<int, int>, std::string> byIndex;
-  std::map<std::pair<std::string, int>, std::string> byName;
-  std::map<std::string, std::string> byEmail, images;
-  std::map<std::string, int> statuses;
-  std::string changed;
-  int imagesAsked = 0;
+  const char* FindContactWithEmail(const char* email) override { return FakeService::Text("mail", email); }
+  const char* GetContactImage(const char* name) override { return FakeService::Text("image", name); }
+  int GetContactStatus(const char* name) override { return FakeService::Number("status", name); }
+  const char* GetStateChangedContact() override { return FakeService::Text("changed"); }
 };
 
 struct FakeCall : recording::CallManager, Counted<FakeCall> {
   bool OnEvent(const CZeltoEvent* event) override { return Run(onEvent, event); }
-  bool AfterEvent(const CZeltoEvent* event) override { return Run(afterEvent, event); }
   bool IsInCall() override { return inCall; }
   bool CallEnd(bool force) override {
     if (onCallEnd) onCallEnd(force);
     return true;
   }
 
-  Hook onEvent, afterEvent;
+  static inline Hook onEvent;  // of all, however often the service is loaded
   std::function<void(bool)> onCallEnd;
   std::atomic<bool> inCall{false};
 };
 
-struct FakeHistory : recording::HistoryManager, Counted<FakeHistory> {
-  const char* GetHistoryInfo(int index, int key) override {
-    return TextOf(entries, std::make_pair(index, key));
-  }
+struct FakeHistory : recording::HistoryManager {
+  const char* GetHistoryInfo(int index, int key) override { return FakeService::Text("history", index, key); }
   int GetHistoryIndexWithTimestamp(const char* time) override {
-    const auto found = positions.find(time);
-    return found != positions.end() ? found->second : -1;
+    return FakeService::Number("position", time);
   }
-
-  std::map<std::pair<int, int>, std::string> entries;
-  std::map<std::string, int> positions;
-};
-
-struct FakeChat : recording::ChatManager, Counted<FakeChat> {};
-
-// What the factories made last, null once it is deleted by hand; and what was asked of the runtime.
-struct FakeService {
-  static inline FakeServiceHost* host = nullptr;
-  static inline FakeAccount* account = nullptr;
-  static inline FakeContacts* contacts = nullptr;
-  static inline FakeCall* call = nullptr;
-  static inline FakeHistory* history = nullptr;
-  static inline std::function<void()> onBeginShutdown;
 };
 
 }  // namespace test

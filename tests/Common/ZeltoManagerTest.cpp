@@ -1,25 +1,17 @@
 #include "Common/ZeltoManager.h"
 
-#include <gtest/gtest.h>
-
-#include <atomic>
-#include <cerrno>
-#include <cstring>
+#include <stdexcept>
 #include <thread>
-#include <vector>
 
 #include "Common/CallManager.h"
-#include "Common/EventQueue.h"
-#include "Common/Platform.h"
-#include "tests/Common/FakeService.h"
-#include "tests/Common/TestHost.h"
+#include "tests/Common/EngineFixture.h"
+#include "tests/Common/NoThreads.h"
 #include "tests/support/FastClock.h"
-#include "tests/support/SurvivalCheck.h"
 
 namespace {
 
 using test::FakeService;
-using Log = std::vector<std::string>;
+using test::Log;
 
 struct Handler : CZeltoEventHandler {
   bool OnEvent(const CZeltoEvent* event) override { return test::Run(onEvent, event); }
@@ -27,20 +19,19 @@ struct Handler : CZeltoEventHandler {
   test::Hook onEvent, afterEvent;
 };
 
-class ARunningEngine : public testing::Test {
+class ARunningEngine : public test::EngineFixture {
  protected:
-  ARunningEngine() : engine(host.StartEngine()) { CZeltoManager::GetZeltoManagerImp(); }
-  ~ARunningEngine() override {
-    CZeltoManager::Destroy(engine);
-    FakeService::onBeginShutdown = nullptr;
+  ~ARunningEngine() override { Destroy(); }
+
+  // So many threads that do this; they are joined.
+  template <class Body>
+  static void InThreads(int count, Body body) {
+    std::vector<std::thread> threads;
+    for (int i = 0; i < count; ++i) threads.emplace_back(body);
+    for (std::thread& thread : threads) thread.join();
   }
 
-  void Destroy() { CZeltoManager::Destroy(std::exchange(engine, nullptr)); }
-
-  test::SurvivalCheck survival;
-  test::TestHost host;
   Handler handler;
-  IMoIPEngine* engine;
 };
 
 TEST_F(ARunningEngine, DeliversEventsInOrderAndDropsUnknownOnes) {
@@ -51,33 +42,27 @@ TEST_F(ARunningEngine, DeliversEventsInOrderAndDropsUnknownOnes) {
   CZeltoManager::SendEvent(-5, 0);
   CZeltoManager::SendEvent(199111, 1);
   ASSERT_TRUE(host.WaitFor("199111(1, null)"));
-  EXPECT_EQ(host.Log(), (Log{"307(65, null)", "100002(-2147483648, null)", "199111(1, null)"}));
+  EXPECT_EQ(host.TakeLog(), (Log{"307(65, null)", "100002(-2147483648, null)", "199111(1, null)"}));
+  for (int type : {-1, 0, 255, 199112}) {
+    EXPECT_FALSE(CZeltoManager::SetEventHandler(static_cast<CZeltoManager::EVENT_TYPE>(type), &handler));
+  }
 }
 
-TEST_F(ARunningEngine, LetsAHandlerReactBeforeAndAfterTheHost) {
+TEST_F(ARunningEngine, LetsAHandlerReactBeforeAndAfterTheHostOrSwallowTheEvent) {
   std::string order;
   handler.onEvent = [&](const CZeltoEvent* event) {
-    return order += "on" + std::to_string(event->param), true;
+    return order += " on" + std::to_string(event->param), event->param == 9;
   };
-  handler.afterEvent = [&](const CZeltoEvent*) { return order += ", after", false; };
-  host.onEvent = [&](const CEngineEvent& event) { order += ", host" + std::to_string(event.type); };
+  handler.afterEvent = [&](const CZeltoEvent*) { return order += " after", false; };
+  host.onEvent = [&](const CEngineEvent& event) { order += " host" + std::to_string(event.type); };
   EXPECT_TRUE(CZeltoManager::SetEventHandler(CZeltoManager::ACCOUNT_LOGGED_IN, &handler));
   CZeltoManager::SendEvent(256, 9);
-  ASSERT_TRUE(host.WaitFor("19(null, null)"));
+  CZeltoManager::SendEvent(256, 8);
   Destroy();
-  EXPECT_EQ(order, "on9, host256, after, host19");
+  EXPECT_EQ(order, " on9 host256 after host19 on8 host19");
 }
 
-TEST_F(ARunningEngine, ReactsItselfToAnEventThatAHandlerSwallows) {
-  handler.onEvent = [](const CZeltoEvent*) { return false; };
-  handler.afterEvent = [](const CZeltoEvent*) -> bool { throw std::logic_error("must not be called"); };
-  CZeltoManager::SetEventHandler(CZeltoManager::ACCOUNT_LOGGED_IN, &handler);
-  CZeltoManager::SendEvent(256, 0);
-  ASSERT_TRUE(host.WaitFor("19(null, null)"));
-  EXPECT_EQ(host.Log(), Log{"19(null, null)"});
-}
-
-TEST_F(ARunningEngine, GoesOnAfterAHandlerOrAHostThatThrows) {
+TEST_F(ARunningEngine, GoesOnAfterAHandlerAHostOrACommandThatThrows) {
   handler.onEvent = [](const CZeltoEvent*) -> bool { throw std::bad_alloc(); };
   CZeltoManager::SetEventHandler(CZeltoManager::ACCOUNT_LOGGED_IN, &handler);
   host.onEvent = [](const CEngineEvent&) { throw 1; };
@@ -85,12 +70,8 @@ TEST_F(ARunningEngine, GoesOnAfterAHandlerOrAHostThatThrows) {
   CZeltoManager::SendEvent(300, 1);
   CZeltoManager::SendEvent(300, 2);
   EXPECT_TRUE(host.WaitFor("300(2, null)"));
-}
-
-TEST_F(ARunningEngine, RefusesHandlersForTypesThatNoEventHas) {
-  for (int type : {-1, 0, 255, 199112}) {
-    EXPECT_FALSE(CZeltoManager::SetEventHandler(static_cast<CZeltoManager::EVENT_TYPE>(type), &handler));
-  }
+  FakeService::host->onExecute = [](const std::string&) -> const char* { throw std::bad_alloc(); };
+  EXPECT_STREQ(engine->Execute("Load", nullptr, nullptr, nullptr, nullptr), "");
 }
 
 TEST_F(ARunningEngine, GivesTheHostTextsThatItMayWriteInto) {
@@ -98,47 +79,8 @@ TEST_F(ARunningEngine, GivesTheHostTextsThatItMayWriteInto) {
   host.onEvent = [](const CEngineEvent& event) { event.param1[0] = event.param2[0] = 'X'; };
   CZeltoManager::NotifyEngineEvent(300, text, "constant");
   CZeltoManager::NotifyHardwiredEvent(21, text, "constant");
-  EXPECT_EQ(host.Log(), (Log{"300(text, constant)", "21(text, constant)"}));
+  EXPECT_EQ(host.TakeLog(), (Log{"300(text, constant)", "21(text, constant)"}));
   EXPECT_STREQ(text, "text");
-}
-
-TEST_F(ARunningEngine, NeverEntersTheHostWithTwoThreads) {
-  std::atomic<int> inside{0}, most{0};
-  host.onEvent = [&](const CEngineEvent&) {
-    most = std::max(most.load(), ++inside);
-    std::this_thread::yield();
-    --inside;
-  };
-  std::vector<std::thread> threads;
-  for (int i = 0; i < 3; ++i) {
-    threads.emplace_back([] {
-      for (int round = 0; round < 300; ++round) {
-        CZeltoManager::SendEvent(300, round);
-        CZeltoManager::NotifyHardwiredEvent(22, nullptr, nullptr);
-        CZeltoManager::CallCommonControl("GetTVModel");
-      }
-    });
-  }
-  for (std::thread& thread : threads) thread.join();
-  Destroy();
-  EXPECT_EQ(most, 1);
-}
-
-TEST_F(ARunningEngine, CallsNoFunctionThatIsNotRegistered) {
-  engine->RegisterEventCallback(nullptr, nullptr);
-  engine->RegisterCommonCtrlFunc(nullptr, nullptr);
-  engine->RegisterDataCallback(nullptr, nullptr);
-  EXPECT_EQ(FakeService::host->loads, 1);
-  const CAVData record{0, 0, 0, nullptr};
-  CZeltoManager::SendAVData(&record, nullptr);
-  CZeltoManager::NotifyEngineEvent(300, nullptr, nullptr);
-  EXPECT_EQ(CZeltoManager::CallCommonControl("GetTVModel"), "");
-  EXPECT_EQ(host.Log(), Log{});
-}
-
-TEST_F(ARunningEngine, AnswersTheEmptyTextWhenACommandThrows) {
-  FakeService::host->onExecute = [](const std::string&) -> const char* { throw std::bad_alloc(); };
-  EXPECT_STREQ(engine->Execute("Load", nullptr, nullptr, nullptr, nullptr), "");
 }
 
 #ifdef ZELTO_DEBUG_LOCKS
@@ -159,7 +101,7 @@ TEST_F(ARunningEngine, RefusesWhatAReenteringHostWouldWaitForForEver) {
     EXPECT_EQ(CZeltoManager::Create(), engine);
   };
   CZeltoManager::NotifyEngineEvent(300, nullptr, nullptr);
-  EXPECT_EQ(host.Log(), Log{"300(null, null)"});
+  EXPECT_EQ(host.TakeLog(), Log{"300(null, null)"});
   EXPECT_EQ(answer, "");
   EXPECT_EQ(FakeService::host->loads, 0);
 }
@@ -182,7 +124,7 @@ TEST_F(ARunningEngine, EndsInOrder) {
   CZeltoManager::SendEvent(CZeltoManager::CALL_DURATION, 1);  // before the end, and so still delivered
   Destroy();
   EXPECT_EQ(order, "shutdown, call, service ready");
-  EXPECT_EQ(host.Log(), (Log{"307(1, null)", "StillThere[]"}));
+  EXPECT_EQ(host.TakeLog(), (Log{"307(1, null)", "StillThere[]"}));
   EXPECT_EQ(test::FakeCall::alive, 0);
 }
 
@@ -196,85 +138,86 @@ TEST_F(ARunningEngine, EndsAlthoughEventsRaiseEventsForEver) {
   EXPECT_EQ(CZeltoManager::GetInstance(), nullptr);
 }
 
-// What a late thread does must neither touch freed memory nor bring the engine back.
+// What a late thread does must neither touch freed memory nor bring the engine back. The host is entered by
+// one thread at a time.
 TEST_F(ARunningEngine, MayBeEndedUnderThreadsThatAreLate) {
   std::atomic<bool> stop{false};
-  std::vector<std::thread> late;
-  for (int i = 0; i < 3; ++i) {
-    late.emplace_back([&] {
-      while (!stop) {
-        CZeltoManager::GetInstance()->SendEvent(300, 1);
-        CZeltoManager::GetInstance()->LazySendEvent(20, 301, 1);
-        CZeltoManager::GetInstance()->DeleteLazyEvent(301);
-        CZeltoManager::GetInstance()->CallCommonControl("GetTVModel");
-        CZeltoManager::GetInstance()->SetEventHandler(CZeltoManager::CALL_ENDED, nullptr);
-        CZeltoManager::GetInstance()->GetRunWidgetParam();
-        zelhost::ServiceHostLock lock("test");
-        CZeltoManager::GetInstance()->IsZeltoReady();
-      }
-    });
-  }
-  for (int round = 0; round < 30; ++round) {
-    Destroy();
-    EXPECT_EQ(CZeltoManager::GetInstance(), nullptr);
-    EXPECT_EQ(CZeltoManager::GetZeltoManagerImp(), nullptr);
-    engine = host.StartEngine();
-    ASSERT_NE(engine, nullptr);
-  }
-  stop = true;
-  for (std::thread& thread : late) thread.join();
+  std::atomic<int> inside{0}, most{0};
+  host.onEvent = [&](const CEngineEvent&) {
+    most = std::max(most.load(), ++inside);
+    std::this_thread::yield();
+    --inside;
+  };
+  std::thread ending([&] {
+    for (int round = 0; round < 30; ++round) {
+      Destroy();
+      EXPECT_EQ(CZeltoManager::GetInstance(), nullptr);
+      EXPECT_EQ(CZeltoManager::GetZeltoManagerImp(), nullptr);
+      engine = host.StartEngine();
+      EXPECT_NE(engine, nullptr);
+    }
+    stop = true;
+  });
+  InThreads(3, [&] {
+    while (!stop) {
+      CZeltoManager::GetInstance()->SendEvent(300, 1);
+      CZeltoManager::GetInstance()->LazySendEvent(20, 301, 1);
+      CZeltoManager::GetInstance()->DeleteLazyEvent(301);
+      CZeltoManager::GetInstance()->NotifyHardwiredEvent(22, nullptr, nullptr);
+      CZeltoManager::GetInstance()->CallCommonControl("GetTVModel");
+      CZeltoManager::GetInstance()->SetEventHandler(CZeltoManager::CALL_ENDED, nullptr);
+      CZeltoManager::GetInstance()->GetRunWidgetParam();
+      zelhost::ServiceHostLock lock("test");
+      CZeltoManager::GetInstance()->IsZeltoReady();
+    }
+  });
+  ending.join();
+  Destroy();
+  EXPECT_EQ(most, 1);
 }
 
 TEST_F(ARunningEngine, MayBeMadeAndEndedByManyThreadsAtOnce) {
   Destroy();
-  std::vector<std::thread> hosts;
   std::atomic<int> made{0};
-  for (int i = 0; i < 4; ++i) {
-    hosts.emplace_back([&] {
-      for (int round = 0; round < 20; ++round) {
-        CZeltoManager* mine = CZeltoManager::Create();
-        if (mine != nullptr) ++made;
-        CZeltoManager::Destroy(mine);  // the first one ends it, the others are refused
-      }
-    });
-  }
-  for (std::thread& thread : hosts) thread.join();
+  InThreads(4, [&] {
+    for (int round = 0; round < 20; ++round) {
+      CZeltoManager* mine = CZeltoManager::Create();
+      if (mine != nullptr) ++made;
+      CZeltoManager::Destroy(mine);  // the first one ends it, the others are refused
+    }
+  });
   EXPECT_EQ(made, 80);
   EXPECT_EQ(CZeltoManager::GetInstance(), nullptr);
 }
 
-TEST_F(ARunningEngine, StartsAfreshAfterEachEnd) {
+TEST_F(ARunningEngine, StartsAfreshAfterItsEndAndCallsNoFunctionThatIsNotRegistered) {
   CZeltoManager::SetEventHandler(CZeltoManager::CALL_ENDED, &handler);
   handler.onEvent = [](const CZeltoEvent*) { return false; };
   CZeltoManager::SetRunWidgetParam("left over");
   CZeltoManager::SetWidgetStarted(true);
-  CZeltoManager::LazySendEvent(100000, 300, 0);
   Destroy();
   EXPECT_FALSE(CZeltoManager::IsZeltoReady());
   EXPECT_EQ(CZeltoManager::GetCountryList("de"), nullptr);
-  engine = host.StartEngine();
+  engine = CZeltoManager::Create();
+  engine->RegisterDataCallback(nullptr, nullptr);
+  EXPECT_EQ(FakeService::host->loads, 1);
   EXPECT_TRUE(CZeltoManager::IsZeltoReady());
   EXPECT_STREQ(CZeltoManager::GetCountryList("de"), "de");
   EXPECT_EQ(CZeltoManager::GetRunWidgetParam(), "");
   EXPECT_FALSE(CZeltoManager::IsWidgetStarted());
+  const CAVData record{0, 0, 0, nullptr};
+  CZeltoManager::SendAVData(&record, nullptr);
+  CZeltoManager::NotifyEngineEvent(300, nullptr, nullptr);
+  EXPECT_EQ(CZeltoManager::CallCommonControl("GetTVModel"), "");
+  EXPECT_EQ(host.TakeLog(), Log{});
+  EXPECT_EQ(host.StartEngine(), engine);
   CZeltoManager::SendEvent(303, 4);
   EXPECT_TRUE(host.WaitFor("303(4, null)"));
 }
 
-// A system that has no thread left.
-class NoThreads : public zelto::Platform {
- public:
-  NoThreads() : m_before(zelto::SetSystem(this)) {}
-  ~NoThreads() override { zelto::SetSystem(m_before); }
-  int CreateThread(pthread_t*, void* (*)(void*), void*) override { return EAGAIN; }
-
- private:
-  zelto::Platform* m_before;
-};
-
 TEST(AnEngineWithoutItsThread, IsNotBuiltUntilThereIsOne) {
   {
-    const NoThreads system;
+    const test::NoThreads system;
     EXPECT_EQ(CZeltoManager::Create(), nullptr);
     EXPECT_EQ(CZeltoManager::Create(), nullptr);
   }

@@ -7,7 +7,6 @@
 #include "apiwrapper/Account.h"
 #include "apiwrapper/ZEProtocol.h"
 #include "apiwrapper/tables/ClassMethods.h"
-#include "apiwrapper/tables/Events.h"
 #include "apiwrapper/tables/RootMethods.h"
 
 namespace {
@@ -88,17 +87,6 @@ TEST(AMethodRow, HasAnEnumerationForEachTokenAndNoOtherAndReadsNothingWhenOneWay
     for (const ZEField& result : row.results) check(result);
     EXPECT_TRUE(row.call != ZECall::OneWay || row.results[0].key == nullptr) << row.name;
   });
-}
-
-TEST(AnEventRow, BelongsToEachCallbackToken) {
-  for (const PMAP* entry = ZELTO_CALLBACK_MAP; entry->name != nullptr; ++entry) {
-    const ZEEvent* event = ZEProtocol::EventByToken(entry->name);
-    ASSERT_NE(event, nullptr) << entry->name;
-    EXPECT_EQ(event->number, entry->value);
-  }
-  EXPECT_STREQ(ZEProtocol::EventByToken("1122")->name, "NewCall");
-  EXPECT_EQ(ZEProtocol::EventByToken("0"), nullptr);
-  EXPECT_EQ(ZEProtocol::EventByNumber(10), nullptr) << "a gap in the numbers";
 }
 
 }  // namespace

@@ -4,22 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "apiwrapper/Alert.h"
-#include "apiwrapper/App2App.h"
-#include "apiwrapper/Call.h"
-#include "apiwrapper/CallMember.h"
-#include "apiwrapper/Chat.h"
-#include "apiwrapper/ChatMessage.h"
-#include "apiwrapper/Contact.h"
-#include "apiwrapper/ContactGroup.h"
-#include "apiwrapper/ContactSearch.h"
-#include "apiwrapper/PriceQuote.h"
-#include "apiwrapper/Transfer.h"
-#include "apiwrapper/Video.h"
-#include "apiwrapper/Voicemail.h"
-#include "apiwrapper/Zelto.h"
 #include "apiwrapper/tables/Events.h"
-#include "tests/apiwrapper/MemoryTransport.h"
+#include "tests/apiwrapper/ProxyFixture.h"
 
 namespace {
 
@@ -208,13 +194,15 @@ TEST_F(AnEvent, OfAnApplicationReachesTheOneObject) {
   EXPECT_THAT(hear({"e 2097 2073 1608=\"game\" 1551=\"1049\" 1667=\"a\\\\\\,b,c\"",
                     "e 2097 2073 1608=\"game\"", "e 2097 2105 1608=\"game\" 1383=\"s\" 2044=\"d\"",
                     "e 1799 2105 1137=\"5\" 1383=\"s\" 2044=\"d\""}),
-              ElementsAre("OnChange 4 a\\,b|c", "OnChange -1 ", "OnDatagram s d"));
+              ElementsAre("OnChange 4 a\\,b|c", "OnChange -1 null", "OnDatagram s d"));
 }
 
 TEST_F(AnEvent, IsKnownWhateverItsNumber) {
   testing::internal::CaptureStderr();
   for (const PMAP* row = ZELTO_CALLBACK_MAP; row->name != nullptr; ++row) {
     hear({("e 1799 " + std::string(row->name) + " 1137=\"99\"").c_str()});
+    ASSERT_NE(ZEProtocol::EventByToken(row->name), nullptr) << row->name;
+    EXPECT_EQ(ZEProtocol::EventByToken(row->name)->number, row->value);
   }
   EXPECT_THAT(testing::internal::GetCapturedStderr(), testing::Not(testing::HasSubstr("Unknown event")));
 }

@@ -20,13 +20,19 @@ class WilfulContact : public Contact {
     ++s_deleted;
     if (onDestruction) onDestruction();
   }
-  void OnChange(int, const ZEString&) override { action(this); }
-  void OnDelete() override { action(this); }
-  void OnContactGoneOffline() override { action(this); }
+  void OnChange(int, const ZEString&) override { act(); }
+  void OnDelete() override { act(); }
+  void OnContactGoneOffline() override { act(); }
 
   static inline int s_deleted = 0;
   std::function<void(WilfulContact*)> action = [](WilfulContact*) {};
   std::function<void()> onDestruction;
+
+ private:
+  void act() {
+    const auto running = action;  // which may replace itself or delete this
+    running(this);
+  }
 };
 
 class WilfulRoot : public Zelto {
@@ -74,14 +80,14 @@ TEST_F(ARegistry, HasNothingUnderIdZeroAndTheFirstOfTwoUnderAnother) {
   Account* first = root.getAccount(5);
   {
     Account second(5, &root);
-    root.insertObject(&second);
     root.insertObject(first);
+    root.insertObject(&second);
     EXPECT_EQ(root.getObject(5), first);
   }
   EXPECT_EQ(root.getObject(5), first) << "the second one's end leaves the first one where it is";
   root.removeObject(5);
-  root.removeObject(5);
   EXPECT_EQ(root.getObject(5), nullptr);
+  root.removeObject(5);
   root.insertObject(first);
 }
 
@@ -120,8 +126,8 @@ TEST_F(ARegistry, LetsAnObjectDeleteItselfInEveryHandler) {
 
 TEST_F(ARegistry, LetsAHandlerDeleteOthersAndAsk) {
   root.contact(5)->action = [this](WilfulContact* self) {
-    delete root.getObject(6);
     self->action = [](WilfulContact*) {};
+    delete root.getObject(6);
     transport.incoming = {R"(e 1799 2048 1137="5")", R"(#1 b 1704="name")"};
     EXPECT_EQ(self->GetProp(1), "name");
     root.runQueue();

@@ -7,9 +7,7 @@
 #include <vector>
 
 #include "apiwrapper/Account.h"
-#include "apiwrapper/ZESocketTransport.h"
 #include "tests/apiwrapper/MemoryTransport.h"
-#include "tests/support/ScriptedRuntime.h"
 
 namespace {
 
@@ -198,6 +196,23 @@ TEST_F(ARoot, ReadsOneMessageOrMoreWhenToldToWait) {
   EXPECT_FALSE(root.pollEvents(-1));
 }
 
+TEST_F(ARoot, SurvivesEveryReplyThatIsNoReply) {
+  start();
+  for (const char* message :
+       {"", " ", "\\", "\"", "#", "# b", "b", "d", "#1 d", "#01 b ", "a b c d e f", "1137=\"5\"",
+        "e 1133 1122 1137=\"99999999999999999999\"", "\xFF\xFE", "e\n\"\\ \""}) {
+    transport.onPush = [&](const std::string& request) {
+      transport.incoming = {message, request.substr(0, request.find(' ') + 1) + "b 0=\"1\""};
+    };
+    logged([&] {
+      EXPECT_TRUE(root.Ping()) << message;
+      root.pollEvents(0);
+    });
+  }
+  transport.onPush = nullptr;
+  EXPECT_FALSE(root.Ping()) << "the stream has ended";
+}
+
 #ifdef ZELTO_DEBUG_LOCKS
 TEST(ARootDeathTest, DiesWhenTheServiceHostMutexIsNotHeld) {
   EXPECT_DEATH(
@@ -210,71 +225,5 @@ TEST(ARootDeathTest, DiesWhenTheServiceHostMutexIsNotHeld) {
       "Zelto::pollEvents called without the service-host mutex");
 }
 #endif
-
-// The same over a socket, with a runtime that misbehaves.
-class AConversation : public testing::Test {
- protected:
-  AConversation() {
-    runtime.reply("1986", ScriptedRuntime::pair("0", "1211"));
-    EXPECT_TRUE(root.init());
-    EXPECT_EQ(root.Start(true, "10070/1.0.0.0/"), Zelto::START_SUCCESS);
-  }
-  ~AConversation() override { root.cleanup(); }
-
-  ScriptedRuntime runtime;
-  ZESocketTransport transport{runtime.path().c_str()};
-  CountingRoot root{&transport};
-};
-
-TEST_F(AConversation, GoesOnWhileEventsArriveBetweenRequestAndReply) {
-  runtime.on("1879", [](ScriptedRuntime& self, const ScriptedRequest& request) {
-    self.sendEvent("1465", "1519", ScriptedRuntime::pair("1156", "1132"));
-    self.answer(request, ScriptedRuntime::pair("1704", "a, \"b\""));
-    self.answer(request, "");  // once too often
-  });
-  for (int i = 0; i < 50; ++i) ASSERT_EQ(root.getAccount(5)->GetProp(1), "a, \"b\"");
-  logged([&] {
-    while (root.statuses.size() < 50U && root.pollEvents(1000)) {
-    }
-  });
-  EXPECT_THAT(root.statuses, SizeIs(50));
-}
-
-TEST_F(AConversation, EndsWithTheStreamInTheMiddleOfAReply) {
-  runtime.on("1879", [](ScriptedRuntime& self, const ScriptedRequest& request) {
-    const std::string bytes = ScriptedRuntime::frame(request.id + "b 1704=\"x\"");
-    self.sendBytes(bytes.substr(0, bytes.size() - 1));
-    self.closeConnection();
-  });
-  EXPECT_TRUE(root.getAccount(5)->GetProp(1).isNull());
-  EXPECT_FALSE(root.pollEvents(0));
-  EXPECT_TRUE(root.getAccount(5)->GetProp(1).isNull()) << "later requests return at once";
-}
-
-TEST_F(AConversation, IsReleasedFromAMuteRuntimeByItsDeath) {
-  runtime.stayMute("1879");
-  std::thread killer([this] {
-    EXPECT_TRUE(runtime.waitForRequests("1879"));
-    runtime.die();
-  });
-  EXPECT_TRUE(root.getAccount(5)->GetProp(1).isNull());
-  killer.join();
-  EXPECT_FALSE(transport.isConnected());
-}
-
-TEST_F(AConversation, SurvivesEveryReplyThatIsNoReply) {
-  for (const char* bytes :
-       {"", " ", "\\", "\"", "#", "# b", "b", "d", "#1", "#1 ", "#1 d", "#01 b ", "a b c d e f", "1137=\"5\"",
-        "e 1133 1122 1137=\"99999999999999999999\"", "\xFF\xFE", "e\n\"\\ \""}) {
-    runtime.on("1594", [bytes](ScriptedRuntime& self, const ScriptedRequest& request) {
-      self.sendMessage(bytes);
-      self.answer(request, ScriptedRuntime::pair("0", "1"));
-    });
-    logged([&] {
-      EXPECT_TRUE(root.Ping()) << bytes;
-      root.pollEvents(0);
-    });
-  }
-}
 
 }  // namespace

@@ -150,7 +150,7 @@ TEST_F(EveryCommand, SurvivesHostileArgumentsBeforeTheServiceIsLoaded) {
 }
 
 TEST_F(EveryCommand, SurvivesHostileArgumentsWhileTheServiceLoads) {
-  const FastClock slow(1);  // loading takes long enough for all of them
+  const TourClock slow(1);  // loading takes long enough for all of them
   SurvivesIn({[&] { SwitchOn(); }, [&] { return HasState(kLoading); }});
 }
 

@@ -4,10 +4,10 @@
 
 #include <atomic>
 #include <chrono>
-#include <cstdint>
+#include <mutex>
 #include <string>
 
-#include "tests/support/FastClock.h"
+#include "tests/faults/TourClock.h"
 #include "tests/support/Watchdog.h"
 #include "tests/system/SwitchedOnTelevision.h"
 
@@ -42,9 +42,6 @@ class ATour : public ATelevision {
   // Fault-free, after whatever came before: everything works.
   void VerifySurvival();
 
-  // Whether the process lives, and is not just waiting to be reaped.
-  static bool Lives(pid_t process);
-
  private:
   bool TakeSteps(IMoIPEngine& engine);
   bool Miss(const std::string& step, const std::string& how);
@@ -52,9 +49,10 @@ class ATour : public ATelevision {
   void AskRuntime();
 
   // Loading waits 6 s for the runtime; on this clock that is a fraction of one.
-  FastClock m_clock{40};
+  TourClock m_clock{40};
   Watchdog m_watchdog{280};
-  std::atomic<bool> m_switchingOff{false};   // a television that is switched off asks nothing more
+  std::mutex m_answerMutex;                  // held while an answer is read
+  std::atomic<bool> m_switchingOff{false};   // a television that is switched off asks and reads nothing more
   std::chrono::milliseconds m_wholeTour{0};  // how long the first tour without faults took
   std::chrono::milliseconds m_longestEvent{0};
   pid_t m_runtime = 0;

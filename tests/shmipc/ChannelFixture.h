@@ -4,11 +4,15 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
+#include "Common/Platform.h"
 #include "shmipc/segment.h"
 #include "shmipc/shmipc.h"
+#include "tests/support/DeviceRoot.h"
 #include "tests/support/SurvivalCheck.h"
 #include "tests/support/Watchdog.h"
 
@@ -19,13 +23,34 @@ struct CloseChannel {
 };
 using Channel = std::unique_ptr<SHMIPC_channel_t, CloseChannel>;
 
+// Stands in for the system while it lives.
+class StandIn : public zelto::Platform {
+ public:
+  StandIn() { zelto::SetSystem(this); }
+  ~StandIn() override { zelto::SetSystem(nullptr); }
+};
+
+// Sleeps without sleeping, keeps the steps, and does something after each.
+class SleepRecorder : public StandIn {
+ public:
+  std::int64_t Now() override { return now; }
+  void Sleep(std::int64_t nanoseconds) override {
+    now += nanoseconds;
+    steps.push_back(nanoseconds);
+    if (afterStep) afterStep();
+  }
+
+  std::int64_t now = 0;
+  std::vector<std::int64_t> steps;
+  std::function<void()> afterStep;
+};
+
 // A device root with a key file in it. At its end the segments of its keys are gone.
 class ChannelFixture : public testing::Test {
  protected:
   static constexpr char kPath[] = "/tmp/shmipc2_conn";
   static constexpr int kProject = 1;
 
-  ChannelFixture();
   ~ChannelFixture() override;
 
   Channel Open(unsigned size, bool create, int project = kProject) const {
@@ -35,15 +60,15 @@ class ChannelFixture : public testing::Test {
   // Both ends of a channel, initialised, with so much room for the ring.
   void Connect(unsigned size);
 
-  static int Send(SHMIPC_channel_t* channel, std::uint32_t type, const std::string& payload, int timeout = 0);
+  static int Send(const Channel& channel, std::uint32_t type, const std::string& payload, int timeout = 0);
   // "type:payload", or the error's number.
-  static std::string Receive(SHMIPC_channel_t* channel, int timeout = 0);
+  static std::string Receive(const Channel& channel, int timeout = 0);
 
   static shmipc::SegmentHeader& HeaderOf(const Channel& channel) { return shmipc::HeaderOf(channel.get()); }
 
-  std::string m_root;
-  Watchdog m_watchdog{240};
-  std::unique_ptr<SurvivalCheck> m_survival;
+  const DeviceRoot m_root;
+  const Watchdog m_watchdog{240};
+  const SurvivalCheck m_survival;
   Channel m_sender;
   Channel m_receiver;
 };

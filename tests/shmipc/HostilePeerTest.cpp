@@ -22,11 +22,8 @@ constexpr std::uint32_t kNasty[] = {
     0x7ffffff0, 0x7fffffff, 0x80000000, 0xfffffff0, 0xfffffff8,    0xffffffff};
 
 // Attaches segments below a page that nobody may touch.
-class GuardedPlatform : public zelto::Platform {
+class GuardedPlatform : public test::StandIn {
  public:
-  GuardedPlatform() { zelto::SetSystem(this); }
-  ~GuardedPlatform() override { zelto::SetSystem(nullptr); }
-
   void* ShmAt(int id) override {
     void* const pages = mmap(nullptr, 3 * kPage, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     return shmat(id, static_cast<char*>(pages) + kPage, SHM_REMAP);
@@ -45,6 +42,7 @@ class AHostilePeer : public test::ChannelFixture {
  protected:
   AHostilePeer() { Connect(kCapacity); }
   ~AHostilePeer() override {
+    // Detached by what attached them.
     m_sender.reset();
     m_receiver.reset();
   }
@@ -64,11 +62,11 @@ TEST_F(AHostilePeer, MakesOperationsFailOnlyWhileAnOffsetIsBad) {
     const std::uint32_t good = Header().*word;
     for (const std::uint32_t nasty : kNasty) {
       Header().*word = nasty;
-      EXPECT_EQ(Send(m_sender.get(), 1, "x", 1), -1) << nasty;
-      EXPECT_EQ(Receive(m_receiver.get(), 1), "-1") << nasty;
+      EXPECT_EQ(Send(m_sender, 1, "x", 1), -1) << nasty;
+      EXPECT_EQ(Receive(m_receiver, 1), "-1") << nasty;
       Header().*word = good;
-      EXPECT_EQ(Send(m_sender.get(), 2, "good"), 0);
-      EXPECT_EQ(Receive(m_receiver.get()), "2:good");
+      EXPECT_EQ(Send(m_sender, 2, "good"), 0);
+      EXPECT_EQ(Receive(m_receiver), "2:good");
       Header().readOffset = Header().writeOffset = good;
     }
   }
@@ -78,8 +76,8 @@ TEST_F(AHostilePeer, CannotMoveWhatWasMeasuredBefore) {
   for (const std::uint32_t nasty : kNasty) {
     Header().capacity = nasty;
     Header().configSize = nasty;
-    EXPECT_EQ(Send(m_sender.get(), 3, std::string(3000, 'x')), 0) << nasty;
-    EXPECT_EQ(Receive(m_receiver.get()), "3:" + std::string(3000, 'x'));
+    EXPECT_EQ(Send(m_sender, 3, std::string(3000, 'x')), 0) << nasty;
+    EXPECT_EQ(Receive(m_receiver), "3:" + std::string(3000, 'x'));
     EXPECT_EQ(SHMIPC_get_config(m_receiver.get()) == nullptr, nasty != kCapacity) << nasty;
   }
 }
@@ -95,8 +93,8 @@ TEST_F(AHostilePeer, KeepsASideFromBeingInitialisedWithABadBlobSize) {
     EXPECT_EQ(SHMIPC_initialize_sender(sender.get()), expected) << nasty;
     EXPECT_EQ(SHMIPC_initialize_receiver(receiver.get()), expected) << nasty;
     if (expected != 0) continue;
-    EXPECT_EQ(Send(sender.get(), 1, ""), -1);
-    EXPECT_EQ(Receive(receiver.get()), "-1");
+    EXPECT_EQ(Send(sender, 1, ""), -1);
+    EXPECT_EQ(Receive(receiver), "-1");
   }
 }
 
@@ -112,52 +110,36 @@ TEST_F(AHostilePeer, CannotAnnounceMorePayloadThanItSent) {
     const test::Channel receiver = Open(kCapacity, false);
     ASSERT_EQ(SHMIPC_initialize_receiver(receiver.get()), 0);
     Header().readOffset = Header().writeOffset = 0;
-    ASSERT_EQ(Send(m_sender.get(), 1, "first"), 0);
-    ASSERT_EQ(Send(m_sender.get(), 2, "second"), 0);
+    ASSERT_EQ(Send(m_sender, 1, "first"), 0);
+    ASSERT_EQ(Send(m_sender, 2, "second"), 0);
     *WordAt(32 + 16 + 4) = nasty;
-    EXPECT_EQ(Receive(receiver.get()), "1:first");
-    EXPECT_EQ(Receive(receiver.get()), "-1") << nasty;
+    EXPECT_EQ(Receive(receiver), "1:first");
+    EXPECT_EQ(Receive(receiver), "-1") << nasty;
     *WordAt(32 + 16 + 4) = 6;
-    ASSERT_EQ(Send(m_sender.get(), 3, "third"), 0);
-    EXPECT_EQ(Receive(receiver.get(), 1), "3:third") << "only the batch with " << nasty << " is lost";
+    ASSERT_EQ(Send(m_sender, 3, "third"), 0);
+    EXPECT_EQ(Receive(receiver, 1), "3:third") << "only the batch with " << nasty << " is lost";
   }
 }
 
-// Attaches to the segment as another process would, and all the time changes words of it, to values that mean
-// something and to others.
-class Scribbler {
- public:
-  Scribbler(int segment, std::vector<std::size_t> offsets)
-      : m_segment(static_cast<char*>(shmat(segment, nullptr, 0))), m_thread([this, offsets] {
-          for (std::uint32_t round = 0; !m_stop; ++round) {
-            const std::uint32_t value =
-                round % 3 == 0 ? kNasty[round % std::size(kNasty)] : round * 16 % kCapacity;
-            auto* const word = reinterpret_cast<std::uint32_t*>(m_segment + offsets[round % offsets.size()]);
-            __atomic_store_n(word, value, __ATOMIC_RELAXED);
-          }
-        }) {}
-  ~Scribbler() {
-    m_stop = true;
-    m_thread.join();
-    shmdt(m_segment);
-  }
-
- private:
-  std::atomic<bool> m_stop{false};
-  char* const m_segment;
-  std::thread m_thread;
-};
-
 // Also where the other side could keep an operation busy for ever: the timeouts hold.
 TEST_F(AHostilePeer, ScribblingDuringEveryOperationChangesNothingOutsideTheSegment) {
-  // Every word of the header that has a meaning, and the lengths of the first packets.
-  const Scribbler scribbler(m_sender->segment_id, {0, 4, 8, 12, 16, 20, 32 + 4, 32 + 20});
+  // As another process would, with values that mean something and with others.
+  void* const attached = shmat(m_sender->segment_id, nullptr, 0);
+  std::atomic<bool> stop{false};
+  std::thread scribbler([&] {
+    // Every word of the header that has a meaning, and the lengths of the first packets.
+    constexpr std::size_t kWords[] = {0, 1, 2, 3, 4, 5, 9, 13};
+    for (std::uint32_t round = 0; !stop; ++round) {
+      const std::uint32_t value = round % 3 == 0 ? kNasty[round % std::size(kNasty)] : round * 16 % kCapacity;
+      __atomic_store_n(static_cast<std::uint32_t*>(attached) + kWords[round % 8], value, __ATOMIC_RELAXED);
+    }
+  });
   const std::string payload(2000, 'x');
   for (std::uint32_t round = 0; round < 3000; ++round) {
     const test::Channel late = round % 10 == 0 ? Open(kCapacity, false) : nullptr;
     if (late != nullptr) SHMIPC_initialize_receiver(late.get());
     const std::string sent = payload.substr(0, round % payload.size());
-    Send(m_sender.get(), round, sent, static_cast<int>(round % 2));
+    Send(m_sender, round, sent, static_cast<int>(round % 2));
     SHMIPC_get_config(m_receiver.get());
     SHMIPC_wait_for_connection(m_sender.get(), 0);
     for (SHMIPC_channel_t* receiver : {m_receiver.get(), late.get()}) {
@@ -165,36 +147,23 @@ TEST_F(AHostilePeer, ScribblingDuringEveryOperationChangesNothingOutsideTheSegme
           SHMIPC_recv_packet(receiver, static_cast<int>(round % 2), nullptr);
       if (packet == nullptr) continue;
       const std::string copy(reinterpret_cast<const char*>(packet + 1), packet->length);
-      ASSERT_LT(copy.size(), kCapacity);
+      EXPECT_LT(copy.size(), kCapacity);
     }
   }
+  stop = true;
+  scribbler.join();
+  shmdt(attached);
 }
-
-// A sender that sees the read offset move all the time, but never so that there is room.
-class MovingPlatform : public zelto::Platform {
- public:
-  explicit MovingPlatform(std::uint32_t* word) : m_word(word) { zelto::SetSystem(this); }
-  ~MovingPlatform() override { zelto::SetSystem(nullptr); }
-
-  std::int64_t Now() override { return m_now; }
-  void Sleep(std::int64_t nanoseconds) override {
-    m_now += nanoseconds;
-    *m_word = *m_word == 16 ? 32 : 16;
-  }
-
-  std::int64_t m_now = 0;
-
- private:
-  std::uint32_t* m_word;
-};
 
 TEST_F(AHostilePeer, CannotStretchATimeoutByMovingAnOffsetToAndFro) {
   Header().writeOffset = 0;
   Header().readOffset = 16;
-  MovingPlatform moving(&Header().readOffset);
-  EXPECT_EQ(Send(m_sender.get(), 1, std::string(100, 'x'), 100), -4);
-  EXPECT_GE(moving.m_now, 100 * zelto::kNanosecondsPerMillisecond);
-  EXPECT_LT(moving.m_now, 210 * zelto::kNanosecondsPerMillisecond);
+  // The sender sees the read offset move all the time, but never so that there is room.
+  test::SleepRecorder moving;
+  moving.afterStep = [&] { Header().readOffset ^= 16 ^ 32; };
+  EXPECT_EQ(Send(m_sender, 1, std::string(100, 'x'), 100), -4);
+  EXPECT_GE(moving.now, 100 * zelto::kNanosecondsPerMillisecond);
+  EXPECT_LT(moving.now, 210 * zelto::kNanosecondsPerMillisecond);
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cstdint>
 #include <random>
 #include <string>
@@ -37,34 +36,23 @@ class PacketSource {
 
 class TwoProcesses : public test::ChannelFixture {
  protected:
-  // The child's status: 0 when every packet went out.
-  static int SendAll(SHMIPC_channel_t* channel) {
-    if (channel == nullptr || SHMIPC_initialize_sender(channel) != 0) return 2;
-    SHMIPC_disable_locking(channel);
-    if (SHMIPC_wait_for_connection(channel, -1) != 0) return 3;
+  // True when every packet went out.
+  static bool SendAll(const test::Channel& channel) {
+    if (SHMIPC_initialize_sender(channel.get()) != 0) return false;
+    SHMIPC_disable_locking(channel.get());
+    if (SHMIPC_wait_for_connection(channel.get(), -1) != 0) return false;
     PacketSource source;
     for (std::uint32_t i = 0; i < kPackets; ++i) {
-      if (Send(channel, i, source.Next(), -1) != 0) return 4;
-    }
-    return 0;
-  }
-
-  // False at the first packet that is not the one sent.
-  static bool ReceiveAll(SHMIPC_channel_t* channel) {
-    PacketSource source;
-    for (std::uint32_t i = 0; i < kPackets; ++i) {
-      int error = 0;
-      const SHMIPC_packet_t* packet = SHMIPC_recv_packet(channel, 2000, &error);
-      const std::string& expected = source.Next();
-      const bool same =
-          packet != nullptr && packet->type == i && packet->length == expected.size() &&
-          std::equal(expected.begin(), expected.end(), reinterpret_cast<const char*>(packet + 1));
-      if (!same) {
-        ADD_FAILURE() << "packet " << i << ", error " << error;
-        return false;
-      }
+      if (Send(channel, i, source.Next(), -1) != 0) return false;
     }
     return true;
+  }
+
+  void ReceiveAll() const {
+    PacketSource source;
+    for (std::uint32_t i = 0; i < kPackets; ++i) {
+      ASSERT_EQ(Receive(m_receiver, 2000), std::to_string(i) + ":" + source.Next());
+    }
   }
 };
 
@@ -72,14 +60,13 @@ TEST_F(TwoProcesses, Pass120000RandomPacketsWholeAndInOrder) {
   m_receiver = Open(kRing, true);
   ASSERT_NE(m_receiver, nullptr);
   const pid_t sender = fork();
-  if (sender == 0) {
-    // Not closed: the process goes, and the attachment with it.
-    _exit(SendAll(SHMIPC_open_channel(kPath, kRing, kProject, 0)));
-  }
+  // Not closed: the process goes, and the attachment with it.
+  if (sender == 0) _exit(SendAll(Open(kRing, false)) ? 0 : 1);
   ASSERT_EQ(SHMIPC_initialize_receiver(m_receiver.get()), 0);
   SHMIPC_disable_locking(m_receiver.get());
   EXPECT_EQ(SHMIPC_wait_for_connection(m_receiver.get(), -1), 0);
-  if (!ReceiveAll(m_receiver.get())) kill(sender, SIGKILL);
+  ReceiveAll();
+  if (HasFailure()) kill(sender, SIGKILL);
   int status = -1;
   ASSERT_EQ(waitpid(sender, &status, 0), sender);
   EXPECT_EQ(status, 0);

@@ -1,9 +1,7 @@
 #include "tests/support/ScriptedRuntime.h"
 
 #include <fcntl.h>
-#include <linux/sockios.h>
 #include <poll.h>
-#include <sys/ioctl.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -93,22 +91,12 @@ void ScriptedRuntime::reply(const std::string& method, const std::string& pairs)
      [pairs](ScriptedRuntime& runtime, const ScriptedRequest& request) { runtime.answer(request, pairs); });
 }
 
-void ScriptedRuntime::refuse(const std::string& method, const std::string& reason) {
-  on(method, [reason](ScriptedRuntime& runtime, const ScriptedRequest& request) {
-    runtime.answerError(request, reason);
-  });
-}
-
 void ScriptedRuntime::stayMute(const std::string& method) {
   on(method, [](ScriptedRuntime&, const ScriptedRequest&) {});
 }
 
 void ScriptedRuntime::answer(const ScriptedRequest& request, const std::string& pairs) {
-  if (request.isBlocking()) sendMessage(request.id + "b " + pairs);
-}
-
-void ScriptedRuntime::answerError(const ScriptedRequest& request, const std::string& reason) {
-  if (request.isBlocking()) sendMessage(request.id + "d " + reason);
+  if (!request.id.empty()) sendMessage(request.id + "b " + pairs);
 }
 
 void ScriptedRuntime::sendEvent(const std::string& classToken, const std::string& event,
@@ -118,26 +106,19 @@ void ScriptedRuntime::sendEvent(const std::string& classToken, const std::string
 
 void ScriptedRuntime::sendMessage(const std::string& text) { sendBytes(frame(text)); }
 
-void ScriptedRuntime::sendBytes(const std::string& bytes) { enqueue({bytes, false, false}); }
-
-void ScriptedRuntime::sendPieces(const std::vector<std::string>& pieces) {
-  for (const std::string& piece : pieces) enqueue({piece, true, false});
+void ScriptedRuntime::sendBytes(const std::string& bytes) {
+  {
+    std::lock_guard<std::mutex> lock(m_mutex);
+    m_outgoing += bytes;
+  }
+  wake();
 }
-
-void ScriptedRuntime::closeConnection() { enqueue({"", false, true}); }
 
 void ScriptedRuntime::die() {
   {
     std::lock_guard<std::mutex> lock(m_mutex);
+    m_closing = true;
     m_listening = false;
-  }
-  closeConnection();
-}
-
-void ScriptedRuntime::enqueue(Outgoing outgoing) {
-  {
-    std::lock_guard<std::mutex> lock(m_mutex);
-    m_outgoing.push_back(std::move(outgoing));
   }
   wake();
 }
@@ -152,14 +133,6 @@ template <class Condition>
 bool ScriptedRuntime::waitUntil(Condition condition) {
   std::unique_lock<std::mutex> lock(m_mutex);
   return m_changed.wait_until(lock, std::chrono::steady_clock::now() + kScriptPatience, condition);
-}
-
-bool ScriptedRuntime::waitForConnection() {
-  return waitUntil([this] { return m_connected; });
-}
-
-bool ScriptedRuntime::waitForDisconnection() {
-  return waitUntil([this] { return !m_connected; });
 }
 
 bool ScriptedRuntime::waitForMessages(std::size_t count) {
@@ -233,61 +206,35 @@ void ScriptedRuntime::run() {
     {
       std::lock_guard<std::mutex> lock(m_mutex);
       if (m_stop) return;
-      wantsToWrite = m_connection != -1 && !m_outgoing.empty();
+      wantsToWrite = m_closing || !m_outgoing.empty();
       listening = m_listening;
     }
-    if (!listening && m_listener != -1) {
-      close(m_listener);
-      m_listener = -1;
-    }
-    const bool waitsForPeer = wantsToWrite && writeSome();
-
-    pollfd watched[2] = {{m_wakePipe[0], POLLIN, 0}, {m_connection, POLLIN, 0}};
-    if (m_connection == -1) watched[1].fd = m_listener;
-    // A peer that takes bytes wakes nobody, so that its progress is looked at every millisecond.
-    poll(watched, 2, waitsForPeer ? 1 : -1);
+    if (!listening && m_listener != -1) close(std::exchange(m_listener, -1));
+    const bool connected = m_connection != -1;
+    const short wanted = connected && wantsToWrite ? POLLIN | POLLOUT : POLLIN;
+    pollfd watched[2] = {{m_wakePipe[0], POLLIN, 0}, {connected ? m_connection : m_listener, wanted, 0}};
+    poll(watched, 2, -1);
     char drained[64];
     while (read(m_wakePipe[0], drained, sizeof(drained)) > 0) {
     }
-    if (watched[1].revents == 0) continue;
-    if (m_connection == -1) {
-      accept();
-    } else {
-      readSome();
+    const short events = watched[1].revents;
+    if (!connected) {
+      if (events != 0) m_connection = accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
+      continue;
     }
+    if ((events & ~POLLOUT) != 0) readSome();
+    if ((events & POLLOUT) != 0 && m_connection != -1) writeSome();
   }
 }
 
-void ScriptedRuntime::accept() {
-  m_connection = accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
-  if (m_connection == -1) return;
-  std::lock_guard<std::mutex> lock(m_mutex);
-  m_connected = true;
-  m_changed.notify_all();
-}
-
-bool ScriptedRuntime::writeSome() {
+void ScriptedRuntime::writeSome() {
   std::unique_lock<std::mutex> lock(m_mutex);
-  while (!m_outgoing.empty()) {
-    Outgoing& next = m_outgoing.front();
-    int untaken = 0;
-    if (next.afterTaken && ioctl(m_connection, SIOCOUTQ, &untaken) == 0 && untaken > 0) return true;
-    if (next.close) {
-      m_outgoing.pop_front();
-      lock.unlock();
-      drop();
-      return false;
-    }
-    const ssize_t written = send(m_connection, next.bytes.data(), next.bytes.size(), MSG_NOSIGNAL);
-    if (written < 0) {
-      if (errno == EAGAIN || errno == EINTR) return true;
-      m_outgoing.clear();
-      return false;
-    }
-    next.bytes.erase(0, static_cast<std::size_t>(written));
-    if (next.bytes.empty()) m_outgoing.pop_front();
-  }
-  return false;
+  const ssize_t written = send(m_connection, m_outgoing.data(), m_outgoing.size(), MSG_NOSIGNAL);
+  if (written < 0 && (errno == EAGAIN || errno == EINTR)) return;
+  m_outgoing.erase(0, written < 0 ? std::string::npos : static_cast<std::size_t>(written));
+  if (!m_closing || !m_outgoing.empty()) return;
+  lock.unlock();
+  drop();
 }
 
 void ScriptedRuntime::readSome() {
@@ -337,6 +284,5 @@ void ScriptedRuntime::drop() {
   m_incoming.clear();
   std::lock_guard<std::mutex> lock(m_mutex);
   m_outgoing.clear();
-  m_connected = false;
-  m_changed.notify_all();
+  m_closing = false;
 }

@@ -6,7 +6,6 @@
 
 #include <chrono>
 #include <condition_variable>
-#include <deque>
 #include <functional>
 #include <map>
 #include <mutex>
@@ -24,8 +23,6 @@ struct ScriptedRequest {
   std::string classToken;
   std::string method;
   std::map<std::string, std::string> arguments;  // unescaped; the last of equal keys
-
-  bool isBlocking() const { return !id.empty(); }
 };
 
 // Listens from its construction on, for one connection after the other. Whoever wrote no rule for a method
@@ -46,13 +43,11 @@ class ScriptedRuntime {
 
   // Rules by method token; a later one replaces an earlier one.
   void on(const std::string& method, Handler handler);
-  void reply(const std::string& method, const std::string& pairs);    // pairs as pair() makes them
-  void refuse(const std::string& method, const std::string& reason);  // an error reply
+  void reply(const std::string& method, const std::string& pairs);  // pairs as pair() makes them
   void stayMute(const std::string& method);
 
-  // Answers a request: its id, "b " and the pairs; or "d " and the reason. Nothing for a one-way request.
+  // Answers a request: its id, "b " and the pairs. Nothing for a one-way request.
   void answer(const ScriptedRequest& request, const std::string& pairs);
-  void answerError(const ScriptedRequest& request, const std::string& reason);
 
   // An event, "e " being its first token: class, event, pairs.
   void sendEvent(const std::string& classToken, const std::string& event, const std::string& pairs = "");
@@ -60,17 +55,11 @@ class ScriptedRuntime {
   void sendMessage(const std::string& text);
   // Bytes as they are.
   void sendBytes(const std::string& bytes);
-  // The same in pieces, each sent once the peer has taken the one before.
-  void sendPieces(const std::vector<std::string>& pieces);
-  // Closes the connection once everything before has been sent.
-  void closeConnection();
-  // Stops listening too, as a runtime that died.
+  // Closes the connection once everything before has been sent, and listens no more.
   void die();
 
-  // All wait up to kScriptPatience.
-  bool waitForConnection();
-  bool waitForDisconnection();
-  // Until that many requests of the method, or messages in all, have arrived since the beginning.
+  // Both wait up to kScriptPatience until that many requests of the method, or messages in all, have arrived
+  // since the beginning.
   bool waitForRequests(const std::string& method, std::size_t count = 1);
   bool waitForMessages(std::size_t count);
 
@@ -84,19 +73,12 @@ class ScriptedRuntime {
   static ScriptedRequest parse(const std::string& message);
 
  private:
-  struct Outgoing {
-    std::string bytes;
-    bool afterTaken;  // waits until the peer has read what was sent before
-    bool close;
-  };
-
-  void enqueue(Outgoing outgoing);
   template <class Condition>
   bool waitUntil(Condition condition);
   void wake();
   void run();
   void accept();
-  bool writeSome();  // true when the next piece waits for the peer
+  void writeSome();
   void readSome();
   void takeMessages();
   void handle(const std::string& message);
@@ -111,10 +93,10 @@ class ScriptedRuntime {
 
   mutable std::mutex m_mutex;
   std::condition_variable m_changed;
-  std::deque<Outgoing> m_outgoing;
+  std::string m_outgoing;
+  bool m_closing = false;  // once everything has been sent
   std::map<std::string, Handler> m_handlers;
   std::vector<std::string> m_messages;
-  bool m_connected = false;
   bool m_listening = true;
   bool m_stop = false;
 

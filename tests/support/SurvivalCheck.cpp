@@ -4,10 +4,10 @@
 #include <unistd.h>
 
 #include <chrono>
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -50,13 +50,12 @@ void CountDescriptors(Census& census) {
 
 // "pid (name) state parent ...": the name may hold blanks and brackets.
 void CountChild(Census& census, const std::string& status) {
-  const std::size_t open = status.find('(');
   const std::size_t close = status.rfind(')');
-  if (open == std::string::npos || close == std::string::npos) return;
-  std::istringstream rest(status.substr(close + 1));
-  char state = 0;
+  if (close == std::string::npos) return;
   int parent = 0;
-  if (rest >> state >> parent && parent == getpid()) ++census["child " + status.substr(0, close + 1)];
+  if (std::sscanf(status.c_str() + close + 1, " %*c %d", &parent) == 1 && parent == getpid()) {
+    ++census["child " + status.substr(0, close + 1)];
+  }
 }
 
 void CountChildren(Census& census) {
@@ -74,18 +73,11 @@ void CountSegments(Census& census) {
     if (name != std::string::npos) ++census["segment attached " + line.substr(name)];
   }
   std::ifstream table("/proc/sysvipc/shm");
-  std::string line;
-  std::getline(table, line);  // the columns' names
-  while (std::getline(table, line)) {
-    std::istringstream columns(line);
-    long key = 0;
-    long id = 0;
-    long skipped = 0;
-    long creator = 0;
-    if (columns >> key >> id >> std::oct >> skipped >> std::dec >> skipped >> creator &&
-        creator == getpid()) {
-      ++census["segment created " + std::to_string(id)];
-    }
+  for (std::string line; std::getline(table, line);) {
+    int id = 0;
+    int creator = 0;
+    const int found = std::sscanf(line.c_str(), "%*d %d %*o %*u %d", &id, &creator);  // 0: the columns' names
+    if (found == 2 && creator == getpid()) ++census["segment created " + std::to_string(id)];
   }
 }
 

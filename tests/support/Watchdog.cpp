@@ -6,7 +6,6 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-#include <array>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -19,20 +18,18 @@ namespace {
 
 constexpr int kDumpSignal = SIGUSR2;
 constexpr int kFrames = 64;
-constexpr std::array<const char*, 3> kTaskFiles = {"comm", "wchan", "syscall"};
 
 void Say(const char* text, std::size_t size) { (void)!write(STDERR_FILENO, text, size); }
 void Say(const char* text) { Say(text, std::strlen(text)); }
 
-void SayTaskFile(const char* task, const char* name) {
-  char path[128];
-  std::snprintf(path, sizeof path, "/proc/self/task/%s/%s", task, name);
+void SayName(const char* task) {
+  char path[300];
+  std::snprintf(path, sizeof path, "/proc/self/task/%s/comm", task);
   const int file = open(path, O_RDONLY | O_CLOEXEC);
-  char content[256];
-  const ssize_t size = file < 0 ? -1 : read(file, content, sizeof content);
-  if (size > 0) Say(content, static_cast<std::size_t>(content[size - 1] == '\n' ? size - 1 : size));
-  Say("  ");
-  if (file >= 0) close(file);
+  char name[32];
+  const ssize_t size = read(file, name, sizeof name);
+  if (size > 0) Say(name, static_cast<std::size_t>(size));
+  close(file);
 }
 
 // Runs on the thread that is asked for its stack.
@@ -45,8 +42,7 @@ void DumpThread(const char* task) {
   Say("\nthread ");
   Say(task);
   Say(": ");
-  for (const char* name : kTaskFiles) SayTaskFile(task, name);
-  Say("\n");
+  SayName(task);
   syscall(SYS_tgkill, getpid(), std::atoi(task), kDumpSignal);
   const timespec pause{0, 50'000'000};  // one thread's stack after the other
   nanosleep(&pause, nullptr);

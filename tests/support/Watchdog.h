@@ -3,8 +3,8 @@
 
 namespace test {
 
-// When it still lives after that many seconds, it prints what every thread of the process does (name, what
-// it waits for in the kernel) and its call stack, and aborts the process. At most one at a time.
+// When it still lives after that many seconds, it prints what every thread of the process does (its name
+// and its call stack), and aborts the process. At most one at a time.
 // Threads: one; it works whatever the others do.
 class Watchdog {
  public:

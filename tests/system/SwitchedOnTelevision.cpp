@@ -103,7 +103,11 @@ pid_t ATelevision::Runtime() const {
 }
 
 void ATelevision::SignalRuntime(int signal) const {
-  const pid_t runtime = Runtime();
+  pid_t runtime = Runtime();
+  // A process that has just been started bears its program's name a moment later.
+  for (int step = 0; runtime == 0 && step < 100; ++step, runtime = Runtime()) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
   ASSERT_NE(runtime, 0);
   ASSERT_EQ(kill(runtime, signal), 0);
 }

@@ -4,18 +4,13 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <memory>
-#include <string>
-#include <thread>
 
-#include "Common/Log.h"
-#include "Common/ZeltoManager.h"
 #include "tests/support/DeviceRoot.h"
 #include "tests/support/FastClock.h"
 #include "tests/support/RecordingHost.h"
-#include "tests/support/ScriptedRuntime.h"
 #include "tests/support/Watchdog.h"
+#include "tests/zelhost/RuntimeMemory.h"
 
 namespace test {
 
@@ -30,8 +25,6 @@ class FastPlatform : public FastClock {
 // accepts every start unless told otherwise.
 class Service : public testing::Test {
  protected:
-  static constexpr char kSocket[] = "/dtv/socket";
-
   Service() {
     m_device.InstallRuntime();
     Listen();
@@ -39,7 +32,7 @@ class Service : public testing::Test {
 
   void Listen() {
     m_runtime.reset();  // which removes its socket
-    m_runtime = std::make_unique<ScriptedRuntime>(m_device / kSocket);
+    m_runtime = std::make_unique<ScriptedRuntime>(m_device / "/dtv/socket");
     m_runtime->reply("1986", ScriptedRuntime::pair("0", "1211"));
   }
   bool Load() { return CZeltoManager::Load(); }
@@ -55,6 +48,7 @@ class Service : public testing::Test {
   Watchdog m_watchdog{100};
   DeviceRoot m_device;
   FastPlatform m_platform{50};
+  RuntimeMemory m_memory;
   std::unique_ptr<ScriptedRuntime> m_runtime;
   RecordingHost m_host;
   std::ptrdiff_t m_loads = 0;

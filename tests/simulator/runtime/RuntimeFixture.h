@@ -18,7 +18,7 @@
 #include "simulator/runtime/requests/Dispatcher.h"
 #include "simulator/runtime/service/AccountProperties.h"
 #include "simulator/runtime/service/SimulatedService.h"
-#include "tests/simulator/runtime/TemporaryFolder.h"
+#include "tests/support/DeviceRoot.h"
 
 namespace test {
 
@@ -31,7 +31,7 @@ class RecordingOutbox : public simulator::Outbox {
 class RuntimeFixture : public ::testing::Test {
  protected:
   RuntimeFixture()
-      : device(home / ".Zelto"),
+      : device(home / "/.Zelto"),
         service(simulator::DeviceStore::DataFolder(device.Folder())),
         session(simulator::Surroundings{service, device, outbox}),
         dispatcher(session, &faults) {}
@@ -114,7 +114,7 @@ class RuntimeFixture : public ::testing::Test {
     return values;
   }
 
-  TemporaryFolder home;
+  DeviceRoot home;
   simulator::DeviceStore device;
   simulator::SimulatedService service;
   RecordingOutbox outbox;

@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include <thread>
+#include <ctime>
 
 using television::Host;
 using television::Report;
@@ -21,7 +21,7 @@ class RegistrationOnlyEngine : public IMoIPEngine {
     m_event = callback, m_user = user;
   }
   void OnData(const CAVData*) noexcept override {}
-  void RegisterDataCallback(MoIPDataCallback callback, void*) noexcept override { m_data = callback; }
+  void RegisterDataCallback(MoIPDataCallback, void*) noexcept override {}
   void RegisterCommonCtrlFunc(MoIPCommonCtrlFunc function, void*) noexcept override { m_control = function; }
 
   std::string Control(const char* command, const char* p1 = nullptr, const char* p2 = nullptr) {
@@ -31,28 +31,16 @@ class RegistrationOnlyEngine : public IMoIPEngine {
     const CEngineEvent event{type, const_cast<char*>(p1), nullptr};
     m_event(&event, m_user);
   }
-  void Data(int type, unsigned size) {
-    const CAVData data{type, 0, size, nullptr};
-    m_data(&data, m_user, nullptr);
-  }
 
  private:
   MoIPEventCallback m_event = nullptr;
-  MoIPDataCallback m_data = nullptr;
   MoIPCommonCtrlFunc m_control = nullptr;
   void* m_user = nullptr;
 };
 
 class ATelevisionHost : public ::testing::Test {
  protected:
-  ATelevisionHost() {
-    host.Attach(engine);
-    host.StartService(engine);
-  }
-
-  static bool IsEvent(const Report& report, int type) {
-    return report.kind == Report::Kind::Event && report.type == type;
-  }
+  ATelevisionHost() { host.Attach(engine); }
 
   RegistrationOnlyEngine engine;
   Host host;
@@ -77,19 +65,6 @@ TEST_F(ATelevisionHost, AnswersItsOwnClockAndLocalTime) {
   EXPECT_EQ(engine.Control("GetLocalTime12", "86399"), "1970-01-01 11:59 PM");
 }
 
-TEST_F(ATelevisionHost, WaitsForReportsInTheirOrderOnly) {
-  engine.Event(256, "0");
-  engine.Event(257, "3");
-  EXPECT_TRUE(
-      host.WaitFor([](const Report& report) { return IsEvent(report, 257); }, std::chrono::seconds(5)));
-  EXPECT_FALSE(
-      host.WaitFor([](const Report& report) { return IsEvent(report, 256); }, std::chrono::milliseconds(1)));
-  std::thread later([this] { engine.Event(371, "0"); });
-  EXPECT_TRUE(
-      host.WaitFor([](const Report& report) { return IsEvent(report, 371); }, std::chrono::seconds(5)));
-  later.join();
-}
-
 TEST_F(ATelevisionHost, CopiesTextsButNeverReadsANoticeRecordAsText) {
   std::vector<Report> seen;
   host.SetObserver([&](const Report& report) { seen.push_back(report); });
@@ -101,13 +76,4 @@ TEST_F(ATelevisionHost, CopiesTextsButNeverReadsANoticeRecordAsText) {
   ASSERT_EQ(seen.size(), 2u);
   EXPECT_THAT(seen[0].parameters, ElementsAre("anna"));
   EXPECT_TRUE(seen[1].parameters.empty());
-}
-
-TEST_F(ATelevisionHost, CountsMediaRecords) {
-  engine.Data(0, 960);
-  engine.Data(1, 100);
-  const Host::MediaCounts media = host.Media();
-  EXPECT_EQ(media.audioRecords, 1u);
-  EXPECT_EQ(media.otherRecords, 1u);
-  EXPECT_EQ(media.bytes, 1060u);
 }

@@ -2,7 +2,6 @@
 
 #include "tests/zelhost/RootFixture.h"
 #include "zelhost/ZelhostAccountManager.h"
-#include "zelhost/apiwrapper/client/CZelto.h"
 
 using zelhost::ServiceHostLock;
 
@@ -10,8 +9,6 @@ namespace {
 
 constexpr unsigned kAccount = 5;
 constexpr char kStatus[] = "1532";
-constexpr char kSignedIn[] = "1719";
-constexpr char kSignedOut[] = "1113";
 
 class AnAccountObject : public test::RootFixture {
  protected:
@@ -48,16 +45,16 @@ TEST_F(AnAccountObject, ReportsItsChangesAsEvents) {
     ChangeTo(c.property, c.value);
     EXPECT_TRUE(m_host.WaitFor(c.event, c.param)) << c.property << "=" << c.value;
   }
-  const std::size_t before = m_host.EventsUntilNow().size();
+  const std::ptrdiff_t before = m_host.CountUntilNow();
   for (const char* quiet : {"1405", "1199", "1101", "1441", "1032"}) ChangeTo(quiet, "1");
   ChangeTo("1819", "unknown");
   ChangeTo("1797", "unknown");
   ChangeTo(kStatus, "1134");
-  EXPECT_EQ(m_host.EventsUntilNow().size(), before + 1);  // the mark itself
+  EXPECT_EQ(m_host.CountUntilNow(), before + 1);  // the mark itself
 }
 
 TEST_F(AnAccountObject, PreparesTheAccountThatHasSignedIn) {
-  ChangeTo(kStatus, kSignedIn);
+  ChangeTo(kStatus, "1719");
   EXPECT_TRUE(m_host.WaitFor(CZeltoManager::ACCOUNT_LOGGED_IN));
   EXPECT_EQ(m_runtime.requests("1109").at(0).arguments.at("1581"), "1242");
   EXPECT_EQ(m_memory.Setting("Lib/Account/IsInitialized"), "1");
@@ -68,17 +65,15 @@ TEST_F(AnAccountObject, GoesWithItsListsWhenItHasSignedOut) {
   Deliver("1684", "1397", Id(90));
   m_memory.SetProperty(kAccount, "1892", "1575");
   m_memory.SetProperty(kAccount, "1317", "ann1;ann2;;ann3;");
-  ChangeTo(kStatus, kSignedOut);
+  ChangeTo(kStatus, "1113");
   EXPECT_TRUE(m_host.WaitFor(CZeltoManager::ACCOUNT_LOGGED_OUT, "11"));
   EXPECT_FALSE(Exists(kAccount));
   EXPECT_FALSE(Exists(90));
-  EXPECT_STREQ(CZelhostAccountManager::GetInstance()->GetSuggestedZeltoNameList(),
-               "ann1\x03\x02"
-               "ann2\x03\x02"
-               "ann3\x03\x02");
-  EXPECT_STREQ(CZelhostAccountManager::GetInstance()->GetSuggestedZeltoName(2), "ann3");
-  EXPECT_EQ(CZelhostAccountManager::GetInstance()->GetSuggestedZeltoName(3), nullptr);
-  EXPECT_EQ(CZelhostAccountManager::GetInstance()->GetSuggestedZeltoName(-1), nullptr);
+  CZelhostAccountManager& accounts = *CZelhostAccountManager::GetInstance();
+  EXPECT_EQ(accounts.GetSuggestedZeltoNameList(), std::string("ann1\3\2ann2\3\2ann3\3\2"));
+  EXPECT_STREQ(accounts.GetSuggestedZeltoName(2), "ann3");
+  EXPECT_EQ(accounts.GetSuggestedZeltoName(3), nullptr);
+  EXPECT_EQ(accounts.GetSuggestedZeltoName(-1), nullptr);
   ServiceHostLock lock("the test");
   EXPECT_EQ(m_root->m_lpActiveAccount, nullptr);
 }
