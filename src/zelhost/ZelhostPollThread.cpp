@@ -39,12 +39,11 @@ const char* StartError(int result) {
 
 template <class Step>
 bool CZelhostLifeCycle::UnlessStopping(const char* who, Step step) {
-  ServiceHostMutex& mutex = ServiceHostMutex::Get();
   int waited = 0;
   while (!m_stop) {
-    if (!mutex.LockWithin(who, zelhost::kStep)) {
+    if (!ServiceHostMutex::Get().LockWithin(who, zelhost::kStep)) {
       waited += zelhost::kStep;
-      if (waited % ServiceHostMutex::kReportEvery == 0) mutex.ReportWait(who, waited);
+      if (waited % ServiceHostMutex::kReportEvery == 0) ServiceHostMutex::Get().ReportWait(who, waited);
       continue;
     }
     ServiceHostLock lock(std::adopt_lock);
