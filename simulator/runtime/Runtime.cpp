@@ -66,7 +66,6 @@ void Runtime::WatchSignals() {
 void Runtime::Run() {
   RunSchedulers();
   m_scenario.Start();
-  const pid_t parent = getppid();
   while (!m_ended) {
     m_loop.Wait(UntilNext());
     RunSchedulers();
@@ -75,7 +74,7 @@ void Runtime::Run() {
       if (m_stopAsked && !m_wire.TheConnection().HasOutput()) Disconnect();
     } else {
       // An engine that died before it connected would leave its runtime behind.
-      m_ended = m_ended || (!m_options.keep && getppid() != parent);
+      m_ended = m_ended || (!m_options.keep && getppid() != m_parent);
     }
   }
 }

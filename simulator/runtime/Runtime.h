@@ -1,6 +1,8 @@
 // The whole of the runtime process.
 #pragma once
 
+#include <unistd.h>
+
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -46,6 +48,7 @@ class Runtime {
   std::int64_t Now() const;  // the schedulers' time
 
   const Options m_options;
+  const pid_t m_parent = getppid();  // asked before the databases are opened, which may take a while
   EventLoop m_loop;
   DeviceStore m_device;
   SimulatedService m_service;

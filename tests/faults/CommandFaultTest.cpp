@@ -80,19 +80,24 @@ class EveryCommand : public ATour {
   struct State {
     std::function<void()> establish;
     std::function<bool()> holds;
+    bool passesByItself = false;  // on a clock that is not fast it lasts long enough
   };
 
   void SetUp() override { ASSERT_TRUE(Run()) << FirstMiss(); }
 
   void SurvivesIn(const State& state) {
     const SurvivalCheck survival;
-    for (const Arguments& arguments : HostileArguments()) {
-      SCOPED_TRACE(arguments.kind);
-      CallAll(state, arguments);
-      if (HasFailure()) return;
+    {
+      std::optional<TourClock> slow;
+      if (state.passesByItself) slow.emplace(1);
+      for (const Arguments& arguments : HostileArguments()) {
+        SCOPED_TRACE(arguments.kind);
+        CallAll(state, arguments);
+        if (HasFailure()) break;
+      }
+      SwitchOff();
     }
-    SwitchOff();
-    VerifySurvival();
+    if (!HasFailure()) VerifySurvival();
   }
 
   bool HasState(const char* state) { return Execute("GetZeltoState") == state; }
@@ -150,8 +155,7 @@ TEST_F(EveryCommand, SurvivesHostileArgumentsBeforeTheServiceIsLoaded) {
 }
 
 TEST_F(EveryCommand, SurvivesHostileArgumentsWhileTheServiceLoads) {
-  const TourClock slow(1);  // loading takes long enough for all of them
-  SurvivesIn({[&] { SwitchOn(); }, [&] { return HasState(kLoading); }});
+  SurvivesIn({[&] { SwitchOn(); }, [&] { return HasState(kLoading); }, true});
 }
 
 TEST_F(EveryCommand, SurvivesHostileArgumentsWhileSignedOut) {
