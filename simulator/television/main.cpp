@@ -19,7 +19,7 @@
 namespace {
 
 struct Options {
-  std::string library;
+  std::string engine;
   std::string runtime;
   std::string deviceRoot;
   std::string script;
@@ -51,7 +51,7 @@ int Run(const Options& options) {
   setenv("ZELTO_DEVICE_ROOT", root.Path().c_str(), 1);
   television::Screen screen;
   screen.Line("device root: " + root.Path());
-  television::Session session(options.library, root, screen);
+  television::Session session(options.engine, root, screen);
   const bool interactive = isatty(STDIN_FILENO) != 0 && options.script.empty();
   if (options.tour) {
     std::istringstream tour(television::kTourScript);
@@ -76,11 +76,11 @@ int Run(const Options& options) {
 
 int main(int argc, char** argv) {
   Options options;
-  options.library = BesideThisProgram("libZelto.so");
+  options.engine = BesideThisProgram("libZelto.so");
   options.runtime = BesideThisProgram("zelhost");
   CLI::App app("A television that loads the call-service engine; a prompt or a script drives it.");
   app.set_version_flag("--version", std::string("zelto-tv ") + simulator::kVersion);
-  app.add_option("--library", options.library, "the engine's shared library")->capture_default_str();
+  app.add_option("--library", options.engine, "the engine's shared library")->capture_default_str();
   app.add_option("--runtime", options.runtime, "the runtime program")->capture_default_str();
   app.add_option("--device-root", options.deviceRoot,
                  "folder of the television's files; a temporary one by default");
