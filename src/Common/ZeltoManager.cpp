@@ -17,6 +17,7 @@
 #include "Common/Log.h"
 #include "Common/Platform.h"
 #include "Common/ZeltoImp.h"
+#include "zelhost/LifeCycleLimits.h"
 #include "zelhost/ZelhostLifeCycle.h"
 
 using zelto::EventHandlers;
@@ -150,14 +151,12 @@ CZeltoManager::~CZeltoManager() noexcept {
 // The thread may be waiting for the service host, which a runtime that does not answer keeps busy: that one
 // is killed. It may also be in a host function, and that is no reason to kill anybody.
 void CZeltoManager::StopEventThread() {
-  constexpr int kPatience = 3000;  // milliseconds
-  constexpr int kStep = 10;
   m_eventThread.RequestStop();
   while (!m_eventThread.HasEnded()) {
     zelhost::ServiceHostMutex& serviceHost = zelhost::ServiceHostMutex::Get();
-    if (serviceHost.LockWithin("engine_destroy", kPatience)) {
+    if (serviceHost.LockWithin("engine_destroy", zelhost::kPatienceWhenUnloading)) {
       serviceHost.Unlock();
-      zelto::SleepMilliseconds(kStep);
+      zelto::SleepMilliseconds(zelhost::kStep);
     } else {
       CZelhostLifeCycle::KillRuntime();
     }

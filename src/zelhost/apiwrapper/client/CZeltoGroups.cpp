@@ -3,6 +3,7 @@
 
 #include "Common/Log.h"
 #include "apiwrapper/ZEPMap.h"
+#include "apiwrapper/ZEReply.h"
 #include "apiwrapper/tables/EnumMaps.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
 
@@ -32,8 +33,7 @@ void CZelto::HandleContactGroups(PARAM mode) {
     HandleContactGroup(GetHardwiredContactGroup(static_cast<ContactGroup::TYPE>(type)), mode);
   }
   const ZEPtrVector groups = GetCustomContactGroups();
-  for (unsigned i = 0; i < groups.size(); ++i)
-    HandleContactGroup(static_cast<ContactGroup*>(groups[i]), mode);
+  for (unsigned i = 0; i < groups.size(); ++i) HandleContactGroup(zeObjectAt<ContactGroup>(groups, i), mode);
 }
 
 void CZelto::HandleSomeContactGroups() {
@@ -63,7 +63,7 @@ void CZelto::TraceGroup(ContactGroup* group, const ZEPtrVector& contacts) const 
   trace(kTraceContactGroup, "CAN_ADD_CONTACT:%s", YesOrNo(group->CanAddContact(nullptr)));
   trace(kTraceContactGroup, "CAN_REMOVE_CONTACT:%s", YesOrNo(group->CanRemoveContact()));
   for (unsigned i = 0; i < contacts.size(); ++i) {
-    const auto* contact = static_cast<const Contact*>(contacts[i]);
+    const auto* contact = zeObjectAt<Contact>(contacts, i);
     if (contact == nullptr) continue;
     const ZEIntDict& values = contact->propCache;
     const ZEString availability =
@@ -91,7 +91,7 @@ ContactGroup* CZelto::FindByName(const ZEString& name) {
   if (type > 0) return GetHardwiredContactGroup(type);
   const ZEPtrVector groups = GetCustomContactGroups();
   for (unsigned i = 0; i < groups.size(); ++i) {
-    auto* group = static_cast<ContactGroup*>(groups[i]);
+    auto* group = zeObjectAt<ContactGroup>(groups, i);
     if (group != nullptr && group->GetProp(ContactGroup::P_CUSTOM_NAME) == name) return group;
   }
   return nullptr;
