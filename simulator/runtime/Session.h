@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 
+#include "simulator/runtime/media/MediaPort.h"
 #include "simulator/runtime/service/DeviceStore.h"
 #include "simulator/runtime/service/Service.h"
 #include "simulator/runtime/world/Contacts.h"
@@ -22,6 +23,7 @@ struct Surroundings {
   std::int64_t clockDifference = 0;    // seconds that the television's clock is ahead
   std::function<void()> started = {};  // the engine has made a successful start
   std::function<void()> stopped = {};  // the engine has asked the runtime to stop
+  MediaPort* media = nullptr;          // none: calls without sound and pictures
 };
 
 // The parts in the order in which they need one another. Whoever drives the session moves its scheduler on.

@@ -17,6 +17,7 @@ void Wire::Connect(std::unique_ptr<Connection> connection) {
 
 void Wire::Send(std::string_view text) {
   if (m_connection == nullptr || m_silent) return;
+  RunActions(m_frames + 1, Moment::Before);
   if (m_verbose) Log("> " + m_decoder.Words(text));
   m_connection->Send(text);
   Count();
@@ -32,7 +33,18 @@ void Wire::Received(std::string_view text) {
 }
 
 void Wire::Count() {
-  if (++m_frames == m_lastFrame) Die(m_death, m_status);
+  ++m_frames;
+  RunActions(m_frames, Moment::After);
+}
+
+void Wire::RunActions(std::uint64_t frame, Moment moment) {
+  // An action may send, and so come back here.
+  for (auto due = m_actions.find({frame, moment}); due != m_actions.end();
+       due = m_actions.find({frame, moment})) {
+    const std::function<void()> action = std::move(due->second);
+    m_actions.erase(due);
+    action();
+  }
 }
 
 void Wire::SplitFrames(const Pieces& pieces) {
@@ -40,10 +52,8 @@ void Wire::SplitFrames(const Pieces& pieces) {
   if (m_connection != nullptr) m_connection->SplitFrames(pieces);
 }
 
-void Wire::DieAt(std::uint64_t frame, Death death, int status) {
-  m_lastFrame = frame;
-  m_death = death;
-  m_status = status;
+void Wire::At(std::uint64_t frame, Moment moment, std::function<void()> action) {
+  m_actions.emplace(std::make_pair(frame, moment), std::move(action));
 }
 
 void Wire::Die(Death death, int status) {
@@ -54,7 +64,7 @@ void Wire::Die(Death death, int status) {
 
 void Wire::Reset() {
   m_silent = false;
-  m_lastFrame = 0;
+  m_actions.clear();
   SplitFrames({});
 }
 

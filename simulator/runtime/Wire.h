@@ -2,7 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <map>
 #include <memory>
+#include <utility>
 
 #include "simulator/runtime/Connection.h"
 #include "simulator/runtime/protocol/Decoder.h"
@@ -14,6 +17,10 @@ enum class Death {
   Exit,  // ends at once with a status, cleaning nothing up
   Kill,  // SIGKILL to itself
 };
+
+// When something happens to a frame that is sent. A received one is counted when it has come and is not
+// served yet, which is after it.
+enum class Moment { Before, After };
 
 // Holds the connection, if there is one; what is sent without one is lost. Counts the frames of both
 // directions.
@@ -40,14 +47,16 @@ class Wire : public Outbox {
   void SetSilent(bool silent) { m_silent = silent; }
   // See Connection::SplitFrames; holds for later connections too.
   void SplitFrames(const Pieces& pieces);
-  // The process ends when that many frames have gone through since its start: a received one is not served
-  // any more, a sent one has been written.
-  void DieAt(std::uint64_t frame, Death death, int status);
+  // Runs the action once, at the frame of that number since the process's start. What the action sends is
+  // counted too.
+  void At(std::uint64_t frame, Moment moment, std::function<void()> action);
+  // What was sent has been written.
   [[noreturn]] void Die(Death death, int status);
   void Reset();
 
  private:
   void Count();
+  void RunActions(std::uint64_t frame, Moment moment);
 
   const bool m_verbose;
   std::unique_ptr<Connection> m_connection;
@@ -55,9 +64,7 @@ class Wire : public Outbox {
   std::uint64_t m_frames = 0;
   bool m_silent = false;
   Pieces m_pieces;
-  std::uint64_t m_lastFrame = 0;
-  Death m_death = Death::Exit;
-  int m_status = 0;
+  std::multimap<std::pair<std::uint64_t, Moment>, std::function<void()>> m_actions;
 };
 
 }  // namespace simulator

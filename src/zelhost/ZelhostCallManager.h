@@ -41,6 +41,10 @@ class CZelhostCallManager : public CCallManagerImp {
   // Chooses between the rectangles of TV mode ("1") and the normal ones ("0"). There is no picture to
   // move yet.
   void ChangeSourceMode(const char* mode);
+  // The source mode of TV mode, by its older name.
+  void SetMixVideoSize() { ChangeSourceMode("1"); }
+  // How a call shall be answered once the widget is there: 0 voice, 1 video, -1 none waits.
+  int PendingAnswer() const { return m_pendingAnswer.load(); }
   // Shows the camera's preview where the present mode allows one; there is none yet.
   void StartPreview();
 
@@ -112,5 +116,6 @@ class CZelhostCallManager : public CCallManagerImp {
   static inline zelhost::ManagerInstance<CZelhostCallManager> m_instance;
 
   std::atomic<bool> m_blockingIncomingCall{false};
+  std::atomic<int> m_pendingAnswer{-1};
   VideoLayout m_layout ZELTO_GUARDED_BY(zelhost::ServiceHostMutex::Get());
 };

@@ -2,6 +2,7 @@
 
 #include "Common/HistoryManager.h"
 #include "Common/ZeltoManager.h"
+#include "apiwrapper/Voicemail.h"
 
 CZelhostHistoryManager::~CZelhostHistoryManager() { m_instance.Forget(); }
 
@@ -12,6 +13,20 @@ bool CZelhostHistoryManager::OnEvent(const CZeltoEvent*) { return true; }
 
 bool CZelhostHistoryManager::OnNewVoicemail(Voicemail*) { return false; }
 void CZelhostHistoryManager::UpdateHistoryList(int, const ZEPtrVector&) {}
+
+void CZelhostHistoryManager::SetCurrentPlayingVoicemail(Voicemail* voicemail) {
+  zelhost::ServiceHostLock lock("SetCurrentPlayingVoicemail");
+  m_playing = voicemail;
+}
+
+bool CZelhostHistoryManager::StopPlayingVoicemail() {
+  zelhost::ServiceHostLock lock("StopPlayingVoicemail");
+  if (m_playing == nullptr) return false;
+  m_playing->StopPlayback();
+  m_playing = nullptr;
+  return true;
+}
+
 void CZelhostHistoryManager::ClearHistoryList() {}
 
 int CZelhostHistoryManager::GetNumOfHistories() { return 0; }

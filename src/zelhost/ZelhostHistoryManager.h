@@ -21,6 +21,10 @@ class CZelhostHistoryManager : public CHistoryManagerImp {
   bool OnNewVoicemail(Voicemail* voicemail);
   // A search has ended: its kind (1 chats, 4 calls, 7 voicemails) and what it found.
   void UpdateHistoryList(int kind, const ZEPtrVector& results);
+  // The voicemail that is being played; null for none. It stays the root object's.
+  void SetCurrentPlayingVoicemail(Voicemail* voicemail);
+  // Stops the voicemail that is being played and forgets it; false when none was.
+  bool StopPlayingVoicemail();
   // Empties the list; part of every sign-out.
   void ClearHistoryList();
 
@@ -52,4 +56,6 @@ class CZelhostHistoryManager : public CHistoryManagerImp {
   CZelhostHistoryManager() = default;
 
   static inline zelhost::ManagerInstance<CZelhostHistoryManager> m_instance;
+
+  Voicemail* m_playing ZELTO_GUARDED_BY(zelhost::ServiceHostMutex::Get()) = nullptr;
 };

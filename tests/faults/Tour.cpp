@@ -11,34 +11,6 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-struct Step {
-  const char* command;
-  const char* parameters[4];
-  const char* answer;  // null: any
-  int event;           // 0: none
-};
-
-// clang-format off
-constexpr Step kTour[] = {
-    {"GetZeltoState",       {},                                        "1",                 0},
-    {"SetMicVolume",        {"33"},                                    "1",                 0},
-    {"GetMicVolume",        {},                                        "33",                0},
-    {"SaveDBPan",           {"a \\ \"quoted\", text"},                 "1",                 0},
-    {"GetDBPan",            {},                                        "a \\ \"quoted\", text", 0},
-    {"IsValidEmail",        {"viewer@example.org"},                    "1",                 0},
-    {"ValidatePasswd",      {kDemoName, "walrus77"},                   "1",                 0},
-    {"Login",               {kDemoName, kDemoPassword, "1"},           "1",                 kLoggedIn},
-    {"GetLoginState",       {},                                        nullptr,             kContactListInSync},
-    {"GetAccountInfo",      {"1"},                                     kDemoName,           0},
-    {"SetProp",             {"16", "under way"},                       "1",                 0},
-    {"SetCallForwardNumbers", {"+3581234"},                            "1",                 kCommitted},
-    {"SetCallForwardTimer", {"45"},                                    "1",                 0},
-    {"GetCallForwardTimer", {},                                        "45",                0},
-    {"SetAvailability",     {"5"},                                     "1",                 0},
-    {"Logout",              {"1"},                                     "1",                 kLoggedOut},
-};
-// clang-format on
-
 // For an event or a whole tour that must come: only a machine that stands still is as slow.
 constexpr milliseconds kLongestEvent{15000};
 constexpr milliseconds kLongestTour{60000};
@@ -53,14 +25,15 @@ constexpr milliseconds kUntilAllWait{60};
 
 // The engine may be ended while the command hangs. That the call had found its way into the engine before is
 // then ordered by time alone, which the thread sanitizer does not count.
-__attribute__((no_sanitize("thread"))) const char* Call(IMoIPEngine& engine, const Step& step) {
+__attribute__((no_sanitize("thread"))) const char* Call(IMoIPEngine& engine, const TourStep& step) {
+  if (step.command == nullptr) return "";
   return engine.Execute(step.command, step.parameters[0], step.parameters[1], step.parameters[2],
                         step.parameters[3]);
 }
 
 }  // namespace
 
-ATour::ATour() { setenv("ZELHOST_PACE", kRuntimePace, 1); }
+ATour::ATour(const std::vector<TourStep>& steps) : m_steps(steps) { setenv("ZELHOST_PACE", kRuntimePace, 1); }
 
 ATour::~ATour() { unsetenv("ZELHOST_PACE"); }
 
@@ -83,8 +56,9 @@ bool ATour::Miss(const std::string& step, const std::string& how) {
 
 bool ATour::TakeSteps(IMoIPEngine& engine) {
   bool whole = Reaches(kRuntimeReady) || Miss("Load", "without its event");
-  for (const Step& step : kTour) {
+  for (const TourStep& step : m_steps) {
     if (m_switchingOff) return false;
+    if (step.order != nullptr) Order(step.order);
     const char* text = Call(engine, step);
     std::string answer;
     {
@@ -96,9 +70,20 @@ bool ATour::TakeSteps(IMoIPEngine& engine) {
     if (whole && step.answer != nullptr && answer != step.answer) {
       whole = Miss(step.command, "answered " + answer);
     }
-    if (whole && step.event != 0 && !Reaches(step.event)) whole = Miss(step.command, "without its event");
+    if (whole && step.event != 0 && !Reaches(step.event)) {
+      whole = Miss(step.command != nullptr ? step.command : step.order,
+                   "without event " + std::to_string(step.event));
+    }
   }
   return whole;
+}
+
+// A runtime that has died takes no orders.
+void ATour::Order(const char* order) {
+  try {
+    Door(order);
+  } catch (const std::exception&) {
+  }
 }
 
 // Leaves what is known when the runtime cannot answer: it has not opened its door yet, or has died.

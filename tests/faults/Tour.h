@@ -1,11 +1,12 @@
-// One scripted tour through the engine's life, run under all kinds of faults on a fast clock: load, start,
-// sign in, settings, sign out, unload.
+// A scripted tour through the engine's life, run under all kinds of faults on a fast clock: load, start, the
+// tour's steps, unload.
 #pragma once
 
 #include <atomic>
 #include <chrono>
 #include <mutex>
 #include <string>
+#include <vector>
 
 #include "tests/faults/TourClock.h"
 #include "tests/support/Watchdog.h"
@@ -13,9 +14,22 @@
 
 namespace test {
 
+struct TourStep {
+  const char* command;  // of the engine; null: only waits for the event
+  const char* parameters[4];
+  const char* answer;           // null: any
+  int event;                    // that follows, 0: none
+  const char* order = nullptr;  // for the runtime's test door, before the command
+};
+
+// Sign in, settings, sign out.
+extern const std::vector<TourStep> kSignInTour;
+// Sign in, a call of each kind, sign out.
+extern const std::vector<TourStep> kCallTour;
+
 class ATour : public ATelevision {
  protected:
-  ATour();
+  explicit ATour(const std::vector<TourStep>& steps = kSignInTour);
   ~ATour() override;
 
   // What the fault that the runtime has been told does to a tour; the less is left of it, the less patience.
@@ -46,8 +60,10 @@ class ATour : public ATelevision {
   bool TakeSteps(IMoIPEngine& engine);
   bool Miss(const std::string& step, const std::string& how);
   bool Reaches(int event);
+  void Order(const char* order);
   void AskRuntime();
 
+  const std::vector<TourStep>& m_steps;
   // Loading waits 6 s for the runtime; on this clock that is a fraction of one.
   TourClock m_clock{40};
   Watchdog m_watchdog{280};

@@ -19,6 +19,7 @@ constexpr OrderRow kOrders[] = {
     {"split",       "byte",         orders::Split},
     {"freeze",      "how",          orders::Freeze},
     {"exit",        "frame",        orders::End},
+    {"at",          "frame",        orders::At},
     {"wait",        "milliseconds", nullptr},
     {"expect",      "method",       nullptr},
     {"connected",   "",             nullptr},

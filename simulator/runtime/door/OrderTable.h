@@ -38,6 +38,7 @@ void Silence(Controls& controls, const nlohmann::json& order, nlohmann::json& an
 void Split(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
 void Freeze(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
 void End(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void At(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
 
 }  // namespace orders
 }  // namespace simulator

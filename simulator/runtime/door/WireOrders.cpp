@@ -1,6 +1,7 @@
 // Orders about the way to the engine, and about the process.
 #include <csignal>
 
+#include "simulator/runtime/Log.h"
 #include "simulator/runtime/Wire.h"
 #include "simulator/runtime/door/Faults.h"
 #include "simulator/runtime/door/OrderArguments.h"
@@ -32,6 +33,11 @@ constexpr ReplyFaultRow kReplyFaults[] = {
 struct FreezeRow {
   const char* name;
   bool stop;
+};
+
+struct MomentRow {
+  const char* name;
+  Moment moment;
 };
 
 struct DeathRow {
@@ -104,8 +110,20 @@ void End(Controls& controls, const json& order, json&) {
   constexpr DeathRow kDeaths[] = {{"exit", Death::Exit}, {"kill", Death::Kill}};
   const Death death = Choose(kDeaths, TextOf(order, "how", "exit")).death;
   const int status = order.value("status", 0);
-  if (!order.contains("frame")) controls.wire.Die(death, status);
-  controls.wire.DieAt(order["frame"].get<std::uint64_t>(), death, status);
+  Wire& wire = controls.wire;
+  if (!order.contains("frame")) wire.Die(death, status);
+  wire.At(order["frame"].get<std::uint64_t>(), Moment::After,
+          [&wire, death, status] { wire.Die(death, status); });
+}
+
+void At(Controls& controls, const json& order, json&) {
+  constexpr MomentRow kMoments[] = {{"before", Moment::Before}, {"after", Moment::After}};
+  const json inner = Orders::FromWords(TextOf(order, "do"));
+  controls.wire.At(order.at("frame").get<std::uint64_t>(),
+                   Choose(kMoments, TextOf(order, "when", "after")).moment, [&controls, inner] {
+                     const json answer = Orders(controls).Execute(inner);
+                     if (!answer["ok"].get<bool>()) Log("at a frame: " + answer["error"].get<std::string>());
+                   });
 }
 
 }  // namespace orders

@@ -13,11 +13,23 @@ namespace {
 
 using nlohmann::json;
 
-// "account" is the account whose sign-in is under way or complete, otherwise an object's id.
+// The object of that class that was made last; null when there is none.
+Object* NewestOf(World& world, const std::string& className) {
+  unsigned newest = 0;
+  for (const auto& [id, object] : world.Objects()) {
+    if (className == object.type->name && id > newest) newest = id;
+  }
+  return world.Find(newest);
+}
+
+// "account" is the account whose sign-in is under way or complete, a class's name its newest object,
+// anything else an object's id.
 Object& ObjectOf(Controls& controls, const json& order) {
   Session& session = SessionOf(controls);
   const std::string name = TextOf(order, "object");
-  Object* object = name == "account" ? session.signIn.Current() : session.world.Find(ToUnsigned(name));
+  Object* object = name == "account"                                  ? session.signIn.Current()
+                   : ZEProtocol::ClassByName(name.c_str()) != nullptr ? NewestOf(session.world, name)
+                                                                      : session.world.Find(ToUnsigned(name));
   if (object == nullptr) Refuse("no object " + name);
   return *object;
 }

@@ -167,6 +167,19 @@ TEST_F(AScenario, SendsBytesAsTheyAreAndNothingWhileSilent) {
   EXPECT_EQ(std::string("\0\0\0a", 4), Written());
 }
 
+TEST_F(AScenario, CarriesOrdersOutAtTheirFrames) {
+  scenario.Read("at 2 when=before do=\"frame early\"\nat 3 do=\"frame late\"\nframe one\nframe two");
+  scenario.Start();
+  EXPECT_TRUE(wire.Flush());
+  const std::string written = Written();
+  std::size_t at = 0;
+  for (const char* text : {"one", "early", "two", "late"}) {
+    at = written.find(text, at);
+    EXPECT_NE(std::string::npos, at) << text;
+  }
+  EXPECT_EQ(4u, wire.Frames());
+}
+
 TEST_F(AScenario, IsRefusedWithTheLineThatIsNoStep) {
   for (const char* bad : {"clear\njump", "wait long", "expect"}) {
     EXPECT_THROW(scenario.Read(bad), std::invalid_argument) << bad;
