@@ -76,7 +76,9 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   CountingOutbox outbox;
-  simulator::Session session(simulator::Surroundings{*TheHome().service, *TheHome().device, outbox});
+  // A call to "crash" must not end the run.
+  simulator::Session session(
+      simulator::Surroundings{*TheHome().service, *TheHome().device, outbox, 0, {}, {}, nullptr, [](int) {}});
   simulator::FrameReader reader;
   reader.Append({reinterpret_cast<const char*>(data), size});
   Run(session, outbox, reader);

@@ -22,12 +22,28 @@ ROWS = [
     ("send an event / boost lockfree", "SendEvent/zelto", "SendEvent/boost_lockfree", 1.5, "time"),
     ("drain an event / boost lockfree", "DrainEvent/zelto10", "DrainEvent/boost_lockfree", 1.5, "time"),
     ("drain with 100,000 queued / with 10", "DrainEvent/zelto100000", "DrainEvent/zelto10", 1.3, "time"),
+    ("media ring, 960 bytes / boost lockfree", "Ring960/zelto", "Ring960/boost_lockfree", 1.0, "time"),
+    ("the same, read in place", "Ring960InPlace/zelto", "Ring960InPlace/boost_lockfree", 1.3, "time"),
+    ("media ring, 1 MiB / boost lockfree", "Ring1MiB/zelto", "Ring1MiB/boost_lockfree", 1.05, "time"),
+    ("a call's CPU / bare threads", "Call/zelto", "Call/bare", 1.5, "time"),
     ("idle engine's CPU / two bare threads", "Idle/zelto", "Idle/bare", 1.3, "time"),
+    ("build 100 contacts / multi_index", "BuildContacts/zelto100", "BuildContacts/multi_index100", 1.6, "time"),
+    ("build 1,000 contacts / multi_index", "BuildContacts/zelto1000", "BuildContacts/multi_index1000", 1.6, "time"),
+    ("build 10,000 contacts / multi_index", "BuildContacts/zelto10000", "BuildContacts/multi_index10000", 1.6, "time"),
+    ("build 50,000 contacts / multi_index", "BuildContacts/zelto50000", "BuildContacts/multi_index50000", 1.6, "time"),
+    ("a contact of 10,000 / of 1,000, building", "BuildContacts/zelto10000", "BuildContacts/zelto1000", 2.0, "time"),
+    ("page of ten of 100 contacts / multi_index", "ContactPage/zelto100", "ContactPage/multi_index100", 1.0, "time"),
+    ("page of ten of 10,000 contacts / multi_index", "ContactPage/zelto10000", "ContactPage/multi_index10000", 1.0, "time"),
+    ("page of ten of 50,000 contacts / multi_index", "ContactPage/zelto50000", "ContactPage/multi_index50000", 1.0, "time"),
+    ("page of ten of 50,000 / of 100", "ContactPage/zelto50000", "ContactPage/zelto100", 1.5, "time"),
+    ("presence change of 10,000 / multi_index", "PresenceChange/zelto10000", "PresenceChange/multi_index10000", 2.0, "time"),
 ]
 
 # Limits that need no peer: what, benchmark, counter, limit.
 LIMITS = [
     ("idle engine's wake-ups per second", "Idle/zelto", "wake_ups_per_s", 134),
+    ("pictures lost in a call", "Call/zelto", "pictures_lost", 0),
+    ("a call's memory above the idle engine, MiB", "Call/zelto", "resident_mib", 12),
 ]
 
 NANOSECONDS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}

@@ -21,6 +21,8 @@ struct BurntIn {
 // Threads: one at a time.
 class TestPicture {
  public:
+  // Sizes are multiples of 8 from 160 x 120 to 4096 x 4096; throws std::invalid_argument for others. The name
+  // is readable as far as it is letters, digits and ".:-_@#".
   explicit TestPicture(const std::string& name, int width = 640, int height = 480);
   ~TestPicture();
   TestPicture(const TestPicture&) = delete;

@@ -37,7 +37,7 @@ Runtime::Runtime(const Options& options)
       m_service(DeviceStore::DataFolder(m_device.Folder())),
       m_wire(options.verbose),
       m_faults(options.seed),
-      m_controls{m_wire, m_faults},
+      m_controls{m_wire, m_faults, nullptr, &m_media},
       m_orders(m_controls),
       m_scenario(m_orders, m_scheduler),
       m_socket(options.socket),
@@ -105,7 +105,7 @@ void Runtime::AcceptEngine() {
   }
   m_wire.Connect(std::make_unique<Connection>(descriptor));
   m_session.emplace(Surroundings{m_service, m_device, m_wire, m_options.clockDifference,
-                                 [this] { m_channels.Attach(); }, [this] { m_stopAsked = true; }});
+                                 [this] { m_media.Attach(); }, [this] { m_stopAsked = true; }, &m_media});
   m_session->scheduler.RunUntil(Now());
   m_dispatcher.emplace(*m_session, &m_faults);
   m_dispatcher->Observe([this](const ZEMethod& method) {
@@ -146,6 +146,7 @@ void Runtime::Disconnect() {
   m_controls.session = nullptr;
   m_dispatcher.reset();
   m_session.reset();
+  m_media.Detach();
   m_wire.Disconnect();
   m_stopAsked = false;
   m_ended = m_ended || !m_options.keep;

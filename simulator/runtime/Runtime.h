@@ -9,7 +9,6 @@
 
 #include "simulator/runtime/EventLoop.h"
 #include "simulator/runtime/ListeningSocket.h"
-#include "simulator/runtime/MediaChannels.h"
 #include "simulator/runtime/Options.h"
 #include "simulator/runtime/Session.h"
 #include "simulator/runtime/Wire.h"
@@ -17,6 +16,7 @@
 #include "simulator/runtime/door/Faults.h"
 #include "simulator/runtime/door/Orders.h"
 #include "simulator/runtime/door/Scenario.h"
+#include "simulator/runtime/media/Media.h"
 #include "simulator/runtime/requests/Dispatcher.h"
 #include "simulator/runtime/service/DeviceStore.h"
 #include "simulator/runtime/service/SimulatedService.h"
@@ -24,7 +24,7 @@
 namespace simulator {
 
 // Serves one engine at a time; a second that connects meanwhile is turned away.
-// Threads: none; Run() does everything.
+// Threads: Run() does everything but carry sound and pictures, which has threads of its own.
 class Runtime {
  public:
   // Opens databases, sockets and the scenario. Throws a std::exception with the reason when it cannot.
@@ -53,12 +53,12 @@ class Runtime {
   DeviceStore m_device;
   SimulatedService m_service;
   Wire m_wire;
+  Media m_media;
   Faults m_faults;
   Controls m_controls;
   Orders m_orders;
   Scheduler m_scheduler;  // of the scenario
   Scenario m_scenario;
-  MediaChannels m_channels;
   std::optional<Session> m_session;
   std::optional<Dispatcher> m_dispatcher;
   ListeningSocket m_socket;

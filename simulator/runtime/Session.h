@@ -1,13 +1,16 @@
 // What one connected engine works with, from its connection to its end.
 #pragma once
 
+#include <csignal>
 #include <cstdint>
 #include <functional>
 
 #include "simulator/runtime/media/MediaPort.h"
 #include "simulator/runtime/service/DeviceStore.h"
 #include "simulator/runtime/service/Service.h"
+#include "simulator/runtime/world/Calls.h"
 #include "simulator/runtime/world/Contacts.h"
+#include "simulator/runtime/world/PresenceChanges.h"
 #include "simulator/runtime/world/Scheduler.h"
 #include "simulator/runtime/world/ServerCommit.h"
 #include "simulator/runtime/world/SignIn.h"
@@ -24,6 +27,8 @@ struct Surroundings {
   std::function<void()> started = {};  // the engine has made a successful start
   std::function<void()> stopped = {};  // the engine has asked the runtime to stop
   MediaPort* media = nullptr;          // none: calls without sound and pictures
+  // What a call to "crash" or "hang" does: the process gets that signal.
+  std::function<void(int signal)> strike = [](int signal) { std::raise(signal); };
 };
 
 // The parts in the order in which they need one another. Whoever drives the session moves its scheduler on.
@@ -35,8 +40,14 @@ struct Session {
         device(surroundings.device),
         world(surroundings.outbox),
         contacts(world, service),
+        presence(world, contacts, scheduler),
         signIn(world, contacts, service, device, scheduler),
-        commit(world, signIn, service, scheduler) {}
+        commit(world, signIn, service, scheduler),
+        calls({world, contacts, scheduler, surroundings.outbox, surroundings.media,
+               surroundings.clockDifference, surroundings.strike},
+              [this] { return !signIn.Name().empty(); }) {
+    signIn.WhenOver([this] { calls.EndAll(); });
+  }
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
 
@@ -46,8 +57,10 @@ struct Session {
   Scheduler scheduler;
   World world;
   Contacts contacts;
+  PresenceChanges presence;
   SignIn signIn;
   ServerCommit commit;
+  Calls calls;
   bool started = false;
 };
 

@@ -50,7 +50,8 @@ char** Complete(const char* text, int start, int) {
 
 }  // namespace
 
-void RunConsole(Session& session) {
+void RunConsole(Session& session, Screen& screen) {
+  rl_outstream = screen.Stream();
   rl_readline_name = "zelto-tv";
   rl_attempted_completion_function = &Complete;
   while (!session.Finished()) {

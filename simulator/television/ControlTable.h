@@ -1,14 +1,18 @@
-// The engine's control commands and what the television does on each.
+// The engine's control commands and what the television does on each. A command may have several rows.
 #pragma once
 
 namespace television {
 
 enum class ControlEffect {
   Answer,     // answers the value
-  Store,      // the first parameter becomes the value; answers "1"
-  StoreRect,  // the four parameters become the value; answers "1"
+  AnswerOne,  // the value is a list; answers the entry whose number the first parameter is
+  Store,      // the first parameter becomes the value, without one the text in `text`; answers "1"
+  StoreAll,   // the parameters together become the value, without any the text in `text`; answers "1"
   Fixed,      // the text in `text` becomes the value; answers "1"
-  LocalTime,  // the first parameter, seconds since the epoch, by strftime's format in `text`; kept as the value
+  Snapshot,   // the parameters become the value, the camera's picture a file; answers "1", "0" without a
+              // picture
+  LocalTime,  // the first parameter, seconds since the epoch, by strftime's format in `text`; kept as the
+              // value
   EpochTime,  // answers the television's clock
 };
 
@@ -17,6 +21,13 @@ struct ControlRow {
   ControlEffect effect;
   const char* value;  // name of the value in TelevisionState
   const char* text;
+};
+
+// What the television does on an event.
+struct EventRow {
+  int type;
+  const char* value;
+  const char* text;  // becomes the value
 };
 
 struct StateRow {
@@ -34,22 +45,22 @@ inline constexpr StateRow kInitialState[] = {
     {"clockOffset",      "0"},   // seconds that the television's clock is ahead of this machine's
     {"speakerVolume",    "20"},
     {"mainMixVolume",    "100"},
-    {"subMixVolume",     "0"},
+    {"subMixVolume",     "100"},
     {"speakerMuted",     "0"},
     {"receiverMuted",    "0"},
     {"doubleTalk",       "0"},
     {"multitasking",     "1"},
     {"embeddedCamera",   "0"},
     {"watchingTv",       "1"},
-    {"micCount",         "1"},
-    {"micDistance",      "0"},
+    {"micCount",         "2"},
+    {"micDistances",     "45 20"},  // centimetres
     {"beamFormer",       "0"},
     {"camera",           "off"},
     {"cameraLight",      "0"},
-    {"cameraLightMode",  "2"},
+    {"cameraLightMode",  "0"},
     {"autoFocus",        "1"},
     {"preview",          "off"},
-    {"previewRect",      ""},
+    {"cameraRect",       ""},
     {"extVideo",         "closed"},
     {"extVideoRect",     ""},
     {"extVideoDiscard",  "0"},
@@ -64,6 +75,8 @@ inline constexpr StateRow kInitialState[] = {
     {"widgetParam",      ""},
     {"enhancement",      "0"},
     {"call",             "none"},
+    {"ring",             "none"},
+    {"connecting",       "hidden"},
     {"helpbar",          "hidden"},
     {"recognition",      "1"},
     {"remoteInput",      ""},
@@ -97,7 +110,7 @@ inline constexpr ControlRow kControls[] = {
     // sound
     {"GetSpeakerVolume",                  ControlEffect::Answer,    "speakerVolume",   ""},
     {"SetSpeakerVolume",                  ControlEffect::Store,     "speakerVolume",   ""},
-    {"MuteSpeakerVolume",                 ControlEffect::Store,     "speakerMuted",    ""},
+    {"MuteSpeakerVolume",                 ControlEffect::Store,     "speakerMuted",    "0"},
     {"MuteReceiverSound",                 ControlEffect::Store,     "receiverMuted",   ""},
     {"GetMainMixAudioVolume",             ControlEffect::Answer,    "mainMixVolume",   ""},
     {"SetMainMixAudioVolume",             ControlEffect::Store,     "mainMixVolume",   ""},
@@ -108,7 +121,7 @@ inline constexpr ControlRow kControls[] = {
     // camera and microphones
     {"IsEmbeddedCamera",                  ControlEffect::Answer,    "embeddedCamera",  ""},
     {"GetCameraNumOfMic",                 ControlEffect::Answer,    "micCount",        ""},
-    {"GetCameraMicDistance",              ControlEffect::Answer,    "micDistance",     ""},
+    {"GetCameraMicDistance",              ControlEffect::AnswerOne, "micDistances",    ""},
     {"IsCameraBeamFormerEnabled",         ControlEffect::Answer,    "beamFormer",      ""},
     {"StartCamera",                       ControlEffect::Fixed,     "camera",          "on"},
     {"StopCamera",                        ControlEffect::Fixed,     "camera",          "off"},
@@ -116,30 +129,39 @@ inline constexpr ControlRow kControls[] = {
     {"IsCameraLightSupported",            ControlEffect::Answer,    "cameraLight",     ""},
     {"SetCameraLightMode",                ControlEffect::Store,     "cameraLightMode", ""},
     {"SetAutoFocus",                      ControlEffect::Store,     "autoFocus",       ""},
-    {"StartPreview",                      ControlEffect::Fixed,     "preview",         "on"},
+    {"StartPreview",                      ControlEffect::StoreAll,  "preview",         "on"},
     {"StopPreview",                       ControlEffect::Fixed,     "preview",         "off"},
-    {"SetCamVideoSize",                   ControlEffect::StoreRect, "previewRect",     ""},
+    {"SetCamVideoSize",                   ControlEffect::StoreAll,  "cameraRect",      ""},
     // video of the far end, picture layout
     {"OpenExtVideo",                      ControlEffect::Fixed,     "extVideo",        "open"},
     {"StartExtVideo",                     ControlEffect::Fixed,     "extVideo",        "started"},
     {"CloseExtVideo",                     ControlEffect::Fixed,     "extVideo",        "closed"},
-    {"ReleaseMixVideo",                   ControlEffect::Fixed,     "extVideo",        "released"},
-    {"SetExtVideoSize",                   ControlEffect::StoreRect, "extVideoRect",    ""},
+    {"ReleaseMixVideo",                   ControlEffect::Fixed,     "extVideo",        "closed"},
+    {"SetExtVideoSize",                   ControlEffect::StoreAll,  "extVideoRect",    ""},
     {"DiscardExtVideoRenderCommand",      ControlEffect::Store,     "extVideoDiscard", ""},
-    {"StartPIGMode",                      ControlEffect::StoreRect, "pig",             ""},
+    {"StartPIGMode",                      ControlEffect::StoreAll,  "pig",             "on"},
     {"StopPIGMode",                       ControlEffect::Fixed,     "pig",             "off"},
     {"SetPIPSourceMedia",                 ControlEffect::Fixed,     "pipSource",       "call"},
     {"RegisterAfterSourceChangeCallback", ControlEffect::Store,     "afterSource",     ""},
     {"GetLastSourceMode",                 ControlEffect::Answer,    "lastSource",      ""},
     {"SetTVMode",                         ControlEffect::Store,     "tvMode",          ""},
     {"SetMoIPVideoEnhancement",           ControlEffect::Store,     "enhancement",     ""},
-    {"MinimizeSnapShot",                  ControlEffect::StoreRect, "snapshotSize",    ""},
+    {"MinimizeSnapShot",                  ControlEffect::Snapshot,  "snapshotSize",    ""},
     // call
     {"StartCall",                         ControlEffect::Fixed,     "call",            "full screen"},
     {"StartCallWithTV",                   ControlEffect::Fixed,     "call",            "with programme"},
     {"StopCall",                          ControlEffect::Fixed,     "call",            "none"},
     {"StopCallWithTV",                    ControlEffect::Fixed,     "call",            "none"},
+    {"StopCallWithTV",                    ControlEffect::Fixed,     "pipSource",       "tuner"},
     {"HideVoiceHelpbar",                  ControlEffect::Fixed,     "helpbar",         "hidden"},
+};
+
+inline constexpr EventRow kEventEffects[] = {
+    {7, "ring", "incoming"},
+    {8, "ring", "outgoing"},
+    {9, "ring", "none"},
+    {23, "connecting", "shown"},
+    {24, "connecting", "hidden"},
 };
 
 // clang-format on

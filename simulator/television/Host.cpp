@@ -35,6 +35,10 @@ void Host::SetObserver(std::function<void(const Report&)> observer) {
   m_observer = std::move(observer);
 }
 
+void Host::SetMediaSink(std::function<void(const CAVData& record, unsigned int* waiting)> sink) {
+  m_mediaSink = std::move(sink);
+}
+
 bool Host::WaitFor(const std::function<bool(const Report&)>& condition, std::chrono::milliseconds limit) {
   std::unique_lock<std::mutex> lock(m_mutex);
   return m_arrived.wait_for(lock, limit, [&] {
@@ -55,11 +59,6 @@ void Host::WithState(const std::function<void(TelevisionState&)>& action) {
   action(m_state);
 }
 
-Host::MediaCounts Host::Media() {
-  const std::lock_guard<std::mutex> lock(m_mutex);
-  return m_media;
-}
-
 void Host::Add(Report report) {
   std::function<void(const Report&)> observer;
   {
@@ -77,19 +76,22 @@ void Host::Add(Report report) {
 }
 
 bool Host::OnEvent(const CEngineEvent* event, void* user) {
+  auto* self = static_cast<Host*>(user);
   Report report;
   report.kind = Report::Kind::Event;
   report.type = event->type;
   if (event->type != kShowNotice) report.parameters = Texts({event->param1, event->param2});
-  static_cast<Host*>(user)->Add(std::move(report));
+  {
+    const std::lock_guard<std::mutex> lock(self->m_mutex);
+    self->m_state.Event(event->type);
+  }
+  self->Add(std::move(report));
   return true;
 }
 
-bool Host::OnData(const CAVData* data, void* user, void*) {
+bool Host::OnData(const CAVData* data, void* user, void* extra) {
   auto* self = static_cast<Host*>(user);
-  const std::lock_guard<std::mutex> lock(self->m_mutex);
-  ++(data->type == 0 ? self->m_media.audioRecords : self->m_media.otherRecords);
-  self->m_media.bytes += data->size;
+  if (self->m_mediaSink) self->m_mediaSink(*data, static_cast<unsigned int*>(extra));
   return true;
 }
 

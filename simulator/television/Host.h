@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <condition_variable>
-#include <cstdint>
 #include <deque>
 #include <functional>
 #include <mutex>
@@ -38,6 +37,11 @@ class Host {
   // Called on the engine's thread for each report, before it can be waited for; must only print or signal.
   void SetObserver(std::function<void(const Report&)> observer);
 
+  // Who takes the engine's sound and pictures: called on the engine's media threads, must only copy and
+  // queue. `waiting` is null for pictures; for sound it takes how many bytes the speaker still has to play.
+  // Set it before the service is started.
+  void SetMediaSink(std::function<void(const CAVData& record, unsigned int* waiting)> sink);
+
   // Waits for a report that fulfils the condition among those that arrived since the last mark, and sets
   // the mark behind it. False when none came in time.
   bool WaitFor(const std::function<bool(const Report&)>& condition, std::chrono::milliseconds limit);
@@ -46,13 +50,6 @@ class Host {
 
   // Runs with the television's state, which no engine thread changes meanwhile.
   void WithState(const std::function<void(TelevisionState&)>& action);
-
-  struct MediaCounts {
-    std::uint64_t audioRecords = 0;
-    std::uint64_t otherRecords = 0;
-    std::uint64_t bytes = 0;
-  };
-  MediaCounts Media();
 
  private:
   static bool OnEvent(const CEngineEvent* event, void* user);
@@ -67,7 +64,7 @@ class Host {
   std::function<void(const Report&)> m_observer;
   TelevisionState m_state;
   std::string m_answer;  // lives until the next control call, which the engine makes one at a time
-  MediaCounts m_media;
+  std::function<void(const CAVData& record, unsigned int* waiting)> m_mediaSink;
 };
 
 }  // namespace television

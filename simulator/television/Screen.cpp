@@ -1,5 +1,6 @@
 #include "simulator/television/Screen.h"
 
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -18,8 +19,17 @@ constexpr char kRed[] = "\033[31m";
 constexpr char kCyan[] = "\033[36m";
 constexpr char kGrey[] = "\033[90m";
 
-// Without a terminal a waiting line is enough once in so many seconds.
-constexpr int kQuietProgressSeconds = 2;
+// Without a terminal a line is enough once in a second; a little less, so that none is left out.
+constexpr std::chrono::milliseconds kQuietProgress{900};
+
+constexpr std::size_t kUsualWidth = 80;
+constexpr std::size_t kMargin = 8;
+
+std::size_t Width(std::FILE* terminal) {
+  winsize size{};
+  const bool known = ioctl(fileno(terminal), TIOCGWINSZ, &size) == 0 && size.ws_col > 2 * kMargin;
+  return known ? size.ws_col : kUsualWidth;
+}
 
 std::string Joined(const std::vector<std::string>& texts) {
   std::string joined;
@@ -29,7 +39,8 @@ std::string Joined(const std::vector<std::string>& texts) {
 
 }  // namespace
 
-Screen::Screen() : m_terminal(isatty(STDOUT_FILENO) != 0) {}
+Screen::Screen()
+    : m_out(fdopen(dup(STDOUT_FILENO), "w"), &std::fclose), m_terminal(isatty(fileno(m_out.get())) != 0) {}
 
 void Screen::Heading(const std::string& text) { Print(kBold, "\n== " + text); }
 void Screen::Command(const std::string& text) { Print(kPlain, "> " + text); }
@@ -55,34 +66,37 @@ void Screen::ShowReports(bool shown) {
   m_reports = shown;
 }
 
-void Screen::Progress(const std::string& text, int seconds) {
+void Screen::Progress(const std::string& text) {
   const std::lock_guard<std::mutex> lock(m_mutex);
+  const auto now = std::chrono::steady_clock::now();
   if (m_terminal) {
-    std::printf("\r  ... %s, %d s\033[K", text.c_str(), seconds);
+    // One screen line: a longer one could not be drawn over.
+    std::fprintf(m_out.get(), "\r  ... %s\033[K", text.substr(0, Width(m_out.get()) - kMargin).c_str());
     m_inProgress = true;
-  } else if (seconds % kQuietProgressSeconds == 0) {
-    std::printf("  ... %s, %d s\n", text.c_str(), seconds);
+  } else if (now - m_lastProgress >= kQuietProgress) {
+    std::fprintf(m_out.get(), "  ... %s\n", text.c_str());
+    m_lastProgress = now;
   }
-  std::fflush(stdout);
+  std::fflush(m_out.get());
 }
 
 void Screen::EndProgress() {
   const std::lock_guard<std::mutex> lock(m_mutex);
-  if (m_inProgress) std::printf("\r\033[K");
+  if (m_inProgress) std::fprintf(m_out.get(), "\r\033[K");
   m_inProgress = false;
-  std::fflush(stdout);
+  std::fflush(m_out.get());
 }
 
 void Screen::Print(const char* colour, const std::string& text) {
   const std::lock_guard<std::mutex> lock(m_mutex);
-  if (m_inProgress) std::printf("\r\033[K");
+  if (m_inProgress) std::fprintf(m_out.get(), "\r\033[K");
   m_inProgress = false;
   if (m_terminal) {
-    std::printf("%s%s%s\n", colour, text.c_str(), kPlain);
+    std::fprintf(m_out.get(), "%s%s%s\n", colour, text.c_str(), kPlain);
   } else {
-    std::printf("%s\n", text.c_str());
+    std::fprintf(m_out.get(), "%s\n", text.c_str());
   }
-  std::fflush(stdout);
+  std::fflush(m_out.get());
 }
 
 }  // namespace television

@@ -4,7 +4,6 @@
 #include <cstdlib>
 #include <istream>
 #include <iterator>
-#include <regex>
 #include <stdexcept>
 
 #include "simulator/television/Catalogue.h"
@@ -16,35 +15,14 @@ namespace television {
 
 namespace {
 
-constexpr int kDefaultWaitSeconds = 10;
-
-std::string Word(const std::vector<std::string>& words, std::size_t index) {
-  return index < words.size() ? words[index] : std::string();
-}
-
-int Seconds(const std::vector<std::string>& words, std::size_t index) {
-  return index < words.size() ? static_cast<int>(std::strtol(words[index].c_str(), nullptr, 10))
-                              : kDefaultWaitSeconds;
-}
-
-// What follows the first word, unsplit.
-std::string Rest(const std::string& line) {
-  const std::size_t start = line.find_first_not_of(" \t");
-  const std::size_t blank = line.find_first_of(" \t", start);
-  const std::size_t rest = line.find_first_not_of(" \t", blank);
-  return blank == std::string::npos || rest == std::string::npos ? std::string() : line.substr(rest);
-}
-
-std::string Column(std::string text, std::size_t width) {
-  text.resize(std::max(text.size() + 1, width), ' ');
-  return text;
-}
+// Where the engine looks for the picture that it asked for.
+constexpr char kCaptureFile[] = "/tmp/capture.jpg";
 
 }  // namespace
 
 // clang-format off
 const Session::Verb Session::kVerbs[] = {
-    {"help",         "[group|command]",        "lists groups, a group's commands, or one command",         &Session::Help},
+    {"help",         "[group|command|word]",   "lists groups, a group's commands, or one command",         &Session::Help},
     {"events",       "",                       "lists the engine's events",                                &Session::Events},
     {"query",        "name [parameters]",      "asks one of the host queries",                             &Session::Ask},
     {"start",        "",                       "registers the data callback, which loads the service",     &Session::Start},
@@ -57,20 +35,53 @@ const Session::Verb Session::kVerbs[] = {
     {"show",         "[name]",                 "shows the television",                                     &Session::Show},
     {"reports",      "on|off",                 "prints events and control calls as they arrive, or not",   &Session::Reports},
     {"door",         "json",                   "sends an order through the runtime's test door",           &Session::OrderDoor},
+    {"contacts",     "[start [count]]",        "lists contacts with their presence",                       &Session::ListContacts},
+    {"call",         "name [voice|video]",     "calls somebody, and opens the widget if it is closed",     &Session::Call},
+    {"answer",       "[voice|video]",          "takes an incoming call",                                   &Session::AnswerCall},
+    {"hangup",       "",                       "ends the call, or refuses it",                             &Session::HangUp},
+    {"media",        "",                       "counters of the call's sound and pictures",                &Session::ShowMedia},
+    {"watch",        "[seconds]",              "the same counters while they run",                         &Session::Watch},
+    {"state",        "keep|compare",           "the television before (keep) and after (compare) a call",  &Session::CompareState},
     {"say",          "text",                   "prints a heading",                                         &Session::Say},
     {"quit",         "",                       "switches the television off",                              &Session::Quit},
 };
 // clang-format on
 
-Session::Session(const std::string& library, const DeviceRoot& root, Screen& screen)
-    : m_root(root), m_screen(screen), m_library(library) {
-  m_host.SetObserver([this](const Report& report) { m_screen.Show(report); });
+Session::Session(const std::string& library, const DeviceRoot& root, const MediaOptions& media,
+                 Screen& screen)
+    : m_root(root),
+      m_screen(screen),
+      m_studio(media),
+      m_errands([this](const std::string& line, const std::string& answer) {
+        m_screen.Command(line + "   (the television itself)");
+        m_screen.Answer(answer);
+      }),
+      m_library(library) {
+  m_host.SetObserver([this](const Report& report) {
+    m_screen.Show(report);
+    m_studio.Control(report.command);
+    m_errands.Take(report);
+  });
+  m_host.SetMediaSink(
+      [this](const CAVData& record, unsigned int* waiting) { m_studio.Take(record, waiting); });
+  m_host.WithState([this](TelevisionState& state) {
+    state.SetCapture([this] { return m_studio.Capture(m_root.Path() + kCaptureFile); });
+  });
   Attach();
 }
 
-Session::~Session() = default;
+Session::~Session() { Detach(); }
 
-void Session::Attach() { m_host.Attach(m_library.Engine()); }
+void Session::Attach() {
+  m_host.Attach(m_library.Engine());
+  m_studio.Attach(m_library.Engine());
+  m_errands.Attach(m_library.Engine());
+}
+
+void Session::Detach() {
+  m_errands.Detach();
+  m_studio.Detach();
+}
 
 void Session::Run(const std::string& line) {
   const Words words = SplitWords(line);
@@ -99,19 +110,23 @@ std::vector<std::string> Session::FirstWords() {
   return words;
 }
 
-void Session::Execute(const Words& words) {
-  m_screen.Command(m_line);
-  const char* parameters[4] = {};
-  for (std::size_t i = 1; i < words.size() && i <= std::size(parameters); ++i)
-    parameters[i - 1] = words[i].c_str();
-  m_answer = m_library.Engine().Execute(words.front().c_str(), parameters[0], parameters[1], parameters[2],
-                                        parameters[3]);
+std::string Session::EngineAnswer(const Words& words) {
+  const char* texts[5] = {};
+  for (std::size_t i = 0; i < words.size() && i < std::size(texts); ++i) texts[i] = words[i].c_str();
+  return m_library.Engine().Execute(texts[0], texts[1], texts[2], texts[3], texts[4]);
+}
+
+void Session::Perform(const Words& words, const std::string& line) {
+  m_screen.Command(line);
+  m_answer = EngineAnswer(words);
   m_screen.Answer(m_answer);
 }
 
+void Session::Execute(const Words& words) { Perform(words, m_line); }
+
 void Session::Ask(const Words& words) {
   m_screen.Command(m_line);
-  const Query* query = FindQuery(Word(words, 1));
+  const Query* query = FindQuery(WordAt(words, 1));
   if (query == nullptr) {
     for (const Query& known : Queries()) m_screen.Line("  " + Column(known.name, 24) + known.parameters);
     return Hold(false, "no such query");
@@ -123,73 +138,17 @@ void Session::Ask(const Words& words) {
 void Session::Start(const Words&) { m_host.StartService(m_library.Engine()); }
 
 void Session::Restart(const Words&) {
+  Detach();
   m_library.Restart();
   m_host.Mark();
   Attach();
   Start({});
 }
 
-void Session::Hold(bool held, const std::string& expectation) {
-  ++(held ? m_held : m_failed);
-  if (!held) m_screen.Problem(expectation);
-}
-
-void Session::Expect(const Words& words) {
-  const std::string expected = Word(words, 1);
-  Hold(m_answer == expected,
-       "expected \"" + Readable(expected) + "\", the answer is \"" + Readable(m_answer) + "\"");
-}
-
-void Session::ExpectLike(const Words&) {
-  const std::string expression = Rest(m_line);
-  try {
-    Hold(std::regex_search(Readable(m_answer), std::regex(expression)),
-         "expected something like " + expression + ", the answer is \"" + Readable(m_answer) + "\"");
-  } catch (const std::regex_error& error) {
-    Hold(false, "no regular expression: " + expression + " (" + error.what() + ")");
-  }
-}
-
-bool Session::Wait(const std::string& what, int seconds,
-                   const std::function<bool(const Report&)>& condition) {
-  bool found = false;
-  for (int second = 0; !found && second < seconds; ++second) {
-    if (second > 0) m_screen.Progress("waiting for " + what, second);
-    found = m_host.WaitFor(condition, std::chrono::seconds(1));
-  }
-  m_screen.EndProgress();
-  return found;
-}
-
-void Session::WaitEvent(const Words& words) {
-  const int type = EventNumber(Word(words, 1));
-  const int seconds = Seconds(words, 2);
-  if (type < 0) return Hold(false, "no such event: " + Word(words, 1));
-  const bool anyParameter = words.size() < 4;
-  const std::string what = std::to_string(type) + ' ' + EventName(type);
-  Hold(Wait(what, seconds,
-            [&](const Report& report) {
-              return report.kind == Report::Kind::Event && report.type == type &&
-                     (anyParameter || Word(report.parameters, 0) == words[3]);
-            }),
-       "no event " + what + (anyParameter ? "" : " with " + words[3]) + " within " + std::to_string(seconds) +
-           " s");
-}
-
-void Session::WaitControl(const Words& words) {
-  const int seconds = Seconds(words, 2);
-  const std::string command = Word(words, 1);
-  Hold(Wait("control call " + command, seconds,
-            [&](const Report& report) {
-              return report.kind == Report::Kind::Control && report.command == command;
-            }),
-       "no control call " + command + " within " + std::to_string(seconds) + " s");
-}
-
 void Session::Set(const Words& words) {
   bool known = false;
-  m_host.WithState([&](TelevisionState& state) { known = state.Set(Word(words, 1), Word(words, 2)); });
-  if (!known) Hold(false, "the television has no \"" + Word(words, 1) + "\" (\"show\" lists what it has)");
+  m_host.WithState([&](TelevisionState& state) { known = state.Set(WordAt(words, 1), WordAt(words, 2)); });
+  if (!known) Hold(false, "the television has no \"" + WordAt(words, 1) + "\" (\"show\" lists what it has)");
 }
 
 void Session::Show(const Words& words) {
@@ -203,26 +162,34 @@ void Session::Show(const Words& words) {
   if (words.size() > 1) m_screen.Answer(m_answer);
 }
 
-void Session::Reports(const Words& words) { m_screen.ShowReports(Word(words, 1) != "off"); }
+void Session::Reports(const Words& words) { m_screen.ShowReports(WordAt(words, 1) != "off"); }
 
 void Session::OrderDoor(const Words&) {
   m_screen.Command(m_line);
   try {
-    m_answer = OrderThroughDoor(m_root.Door(), Rest(m_line));
+    m_answer = OrderThroughDoor(m_root.Door(), AfterFirstWord(m_line));
     m_screen.Answer(m_answer);
   } catch (const std::runtime_error& error) {
     Hold(false, error.what());
   }
 }
 
-void Session::Say(const Words&) { m_screen.Heading(Rest(m_line)); }
+void Session::Say(const Words&) { m_screen.Heading(AfterFirstWord(m_line)); }
 
 void Session::Quit(const Words&) { m_finished = true; }
 
 void Session::Help(const Words& words) {
-  const std::string wanted = Word(words, 1);
-  std::vector<std::string> groups;
+  const std::string wanted = WordAt(words, 1);
+  const auto line = [this](const Verb& verb) {
+    m_screen.Line("  " + Column(std::string(verb.name) + ' ' + verb.parameters, 40) + verb.help);
+  };
   bool shown = false;
+  for (const Verb& verb : kVerbs) {
+    if (wanted != verb.name) continue;
+    line(verb);
+    shown = true;
+  }
+  std::vector<std::string> groups;
   for (const Command& command : Commands()) {
     if (std::find(groups.begin(), groups.end(), command.group) == groups.end())
       groups.emplace_back(command.group);
@@ -231,8 +198,7 @@ void Session::Help(const Words& words) {
     shown = true;
   }
   if (shown) return;
-  for (const Verb& verb : kVerbs)
-    m_screen.Line("  " + Column(std::string(verb.name) + ' ' + verb.parameters, 40) + verb.help);
+  for (const Verb& verb : kVerbs) line(verb);
   m_screen.Line("  and the engine's commands, by name; their groups:");
   for (const std::string& group : groups) m_screen.Line("    " + group);
 }

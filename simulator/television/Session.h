@@ -1,24 +1,27 @@
 #pragma once
 
 #include <iosfwd>
+#include <map>
 #include <string>
 #include <vector>
 
 #include "simulator/television/DeviceRoot.h"
 #include "simulator/television/EngineLibrary.h"
+#include "simulator/television/Errands.h"
 #include "simulator/television/Host.h"
 #include "simulator/television/Screen.h"
+#include "simulator/television/media/MediaStudio.h"
 
 namespace television {
 
 // A television with its engine, driven by lines: the engine's string commands by their names, the host
-// queries, and a few words of the console's own (Session.cpp lists them in one table). A person at the
-// prompt and a script use the same lines.
+// queries, and a few words of the console's own (Session.cpp lists them in one table; SessionCalls.cpp has
+// those about contacts and calls). A person at the prompt and a script use the same lines.
 // Threads: one.
 class Session {
  public:
-  // Throws std::runtime_error when the library cannot be loaded.
-  Session(const std::string& library, const DeviceRoot& root, Screen& screen);
+  // Throws std::runtime_error when the library cannot be loaded or the media can't be used.
+  Session(const std::string& library, const DeviceRoot& root, const MediaOptions& media, Screen& screen);
   ~Session();
 
   // Runs one line; empty lines and those that begin with "#" do nothing.
@@ -59,15 +62,30 @@ class Session {
   void OrderDoor(const Words& words);
   void Say(const Words& words);
   void Quit(const Words& words);
+  void ListContacts(const Words& words);
+  void Call(const Words& words);
+  void AnswerCall(const Words& words);
+  void HangUp(const Words& words);
+  void ShowMedia(const Words& words);
+  void Watch(const Words& words);
+  void CompareState(const Words& words);
 
   void Attach();
+  void Detach();
+  // Runs a command of the engine and answers its text.
+  std::string EngineAnswer(const Words& words);
+  // The same, with command and answer printed; the answer is the last one then.
+  void Perform(const Words& words, const std::string& line);
   void Hold(bool held, const std::string& expectation);
   bool Wait(const std::string& what, int seconds, const std::function<bool(const Report&)>& condition);
 
   const DeviceRoot& m_root;
   Screen& m_screen;
   Host m_host;
-  EngineLibrary m_library;
+  MediaStudio m_studio;
+  Errands m_errands;
+  EngineLibrary m_library;  // after what its threads call
+  std::map<std::string, std::string> m_keptState;
   std::string m_line;    // as it was given, for what wants it unsplit
   std::string m_answer;  // of the last command or query
   bool m_finished = false;

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cstdlib>
 #include <ctime>
+#include <initializer_list>
 #include <iterator>
+#include <sstream>
 
 #include "simulator/television/ControlTable.h"
 
@@ -11,10 +13,22 @@ namespace television {
 
 namespace {
 
-const ControlRow* FindControl(std::string_view command) {
-  const auto row = std::find_if(std::begin(kControls), std::end(kControls),
-                                [&](const ControlRow& candidate) { return command == candidate.command; });
-  return row == std::end(kControls) ? nullptr : row;
+// The parameters, separated by blanks.
+std::string Joined(std::initializer_list<std::string_view> parameters) {
+  std::string joined;
+  for (const std::string_view parameter : parameters) joined.append(parameter).append(" ");
+  joined.erase(joined.find_last_not_of(' ') + 1);
+  return joined;
+}
+
+// An entry of a list separated by blanks; empty when there are not so many.
+std::string Entry(const std::string& list, std::string_view number) {
+  std::istringstream entries(list);
+  std::string entry;
+  for (long left = std::strtol(std::string(number).c_str(), nullptr, 10); left >= 0; --left) {
+    if (!(entries >> entry)) return {};
+  }
+  return entry;
 }
 
 std::string FormatTime(std::string_view seconds, const char* format) {
@@ -31,31 +45,54 @@ TelevisionState::TelevisionState() {
   for (const StateRow& row : kInitialState) m_values.emplace(row.name, row.initial);
 }
 
-bool TelevisionState::Knows(std::string_view command) { return FindControl(command) != nullptr; }
+bool TelevisionState::Knows(std::string_view command) {
+  return std::any_of(std::begin(kControls), std::end(kControls),
+                     [&](const ControlRow& row) { return command == row.command; });
+}
 
 std::string TelevisionState::Control(std::string_view command, std::string_view p1, std::string_view p2,
                                      std::string_view p3, std::string_view p4) {
-  const ControlRow* row = FindControl(command);
-  if (row == nullptr) return {};
-  std::string& value = m_values[row->value];
-  switch (row->effect) {
+  std::string answer;
+  for (const ControlRow& row : kControls) {
+    if (command == row.command) answer = Apply(row, p1, Joined({p1, p2, p3, p4}));
+  }
+  return answer;
+}
+
+std::string TelevisionState::Apply(const ControlRow& row, std::string_view first, const std::string& all) {
+  std::string& value = m_values[row.value];
+  switch (row.effect) {
     case ControlEffect::Answer:
       return value;
+    case ControlEffect::AnswerOne:
+      return Entry(value, first);
     case ControlEffect::EpochTime:
       return std::to_string(std::time(nullptr) + std::strtol(value.c_str(), nullptr, 10));
     case ControlEffect::LocalTime:
-      return value = FormatTime(p1, row->text);
+      return value = FormatTime(first, row.text);
     case ControlEffect::Store:
-      value = p1;
+      value = first.empty() ? row.text : first;
+      break;
+    case ControlEffect::StoreAll:
+      value = all.empty() ? row.text : all;
       break;
     case ControlEffect::Fixed:
-      value = row->text;
+      value = row.text;
       break;
-    case ControlEffect::StoreRect:
-      value.assign(p1).append(" ").append(p2).append(" ").append(p3).append(" ").append(p4);
-      break;
+    case ControlEffect::Snapshot:
+      value = all;
+      return m_capture && m_capture() ? "1" : "0";
   }
+  m_setByEngine.insert(row.value);
   return "1";
+}
+
+void TelevisionState::Event(int type) {
+  for (const EventRow& row : kEventEffects) {
+    if (row.type != type) continue;
+    m_values[row.value] = row.text;
+    m_setByEngine.insert(row.value);
+  }
 }
 
 std::string TelevisionState::Get(const std::string& name) const {

@@ -1,5 +1,5 @@
-// What `zelto-tv --tour` shows: a television is switched on, a viewer signs in, changes things, signs out
-// and is signed in by himself the next time.
+// What `zelto-tv --tour` shows: a television is switched on, a viewer signs in, changes things, sees who is
+// there, calls and is called, signs out and is signed in by himself the next time.
 #pragma once
 
 namespace television {
@@ -44,6 +44,49 @@ expect 77
 SetCallForwardTimer 45
 GetCallForwardTimer
 expect 45
+
+say The contact list with presence
+wait ACCOUNT_CBL_IN_SYNC 10
+contacts
+expect-like sndtest
+query GetContactStatus maria
+expect "yes | 1"
+
+say A video call to the echo test, which gives back what it gets
+state keep
+call sndtest video
+expect 1
+wait CALLMEMBER_INPROGRESS 15
+wait-control SetCamVideoSize 5
+reports off
+watch 5
+expect-like received, 0 dropped
+expect-like round trip
+GetCallInfo
+expect-like ^0 . 1 .*sndtest
+reports on
+hangup
+wait CALL_MEMBERS_CLEARED 10
+SetZeltoWidgetState 0
+
+say A call comes while the widget is closed; answering starts it, beside the programme
+door {"order":"call","from":"maria","video":1}
+wait INCOMING_CALL 10
+answer video
+wait CALLMEMBER_INPROGRESS 10
+wait-control StartCallWithTV 5
+reports off
+watch 3
+expect-like one way
+reports on
+hangup
+wait CALL_MEMBERS_CLEARED 10
+SetZeltoWidgetState 0
+
+say The television before the two calls and after them
+state compare
+# The places of the pictures stay until others are given.
+expect "cameraRect extVideoRect widgetParam"
 
 say Sign out
 Logout 0

@@ -1,5 +1,6 @@
 #include "simulator/television/Words.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace television {
@@ -47,6 +48,24 @@ std::vector<std::string> SplitWords(std::string_view line) {
   }
   if (inWord) words.push_back(std::move(word));
   return words;
+}
+
+std::string WordAt(const std::vector<std::string>& words, std::size_t index) {
+  return index < words.size() ? words[index] : std::string();
+}
+
+std::string AfterFirstWord(const std::string& line) {
+  const std::size_t start = line.find_first_not_of(" \t");
+  const std::size_t blank = line.find_first_of(" \t", start);
+  const std::size_t rest = line.find_first_not_of(" \t", blank);
+  return blank == std::string::npos || rest == std::string::npos ? std::string() : line.substr(rest);
+}
+
+std::string Column(std::string text, std::size_t width) {
+  const auto characters = static_cast<std::size_t>(std::count_if(
+      text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xc0) != 0x80; }));
+  text.append(characters < width ? width - characters : 1, ' ');
+  return text;
 }
 
 std::string Readable(std::string_view text) {

@@ -24,6 +24,7 @@ struct Options {
   std::string deviceRoot;
   std::string script;
   std::string log;
+  television::MediaOptions media;
   bool tour = false;
 };
 
@@ -42,16 +43,20 @@ void RunScript(television::Session& session, const std::string& path) {
   session.RunScript(file);
 }
 
-int Run(const Options& options) {
-  if (!options.log.empty() && std::freopen(options.log.c_str(), "w", stderr) == nullptr) {
-    throw std::runtime_error("can't write the log " + options.log);
-  }
+// What engine and runtime write goes into the log; the screen keeps its own way to the terminal.
+void WriteLog(const std::string& path) {
+  if (std::freopen(path.c_str(), "w", stderr) == nullptr || dup2(STDERR_FILENO, STDOUT_FILENO) < 0)
+    throw std::runtime_error("can't write the log " + path);
+  std::setvbuf(stdout, nullptr, _IOLBF, 0);
+}
+
+int Run(const Options& options, television::Screen& screen) {
+  if (!options.log.empty()) WriteLog(options.log);
   television::DeviceRoot root(options.deviceRoot);
   root.Furnish(options.runtime);
   setenv("ZELTO_DEVICE_ROOT", root.Path().c_str(), 1);
-  television::Screen screen;
   screen.Line("device root: " + root.Path());
-  television::Session session(options.engine, root, screen);
+  television::Session session(options.engine, root, options.media, screen);
   const bool interactive = isatty(STDIN_FILENO) != 0 && options.script.empty();
   if (options.tour) {
     std::istringstream tour(television::kTourScript);
@@ -62,7 +67,7 @@ int Run(const Options& options) {
   if (!options.script.empty()) RunScript(session, options.script);
   if (interactive) {
     screen.Line("\"help\" lists what you can do here, \"quit\" switches the television off.");
-    television::RunConsole(session);
+    television::RunConsole(session, screen);
   } else if (!options.tour && options.script.empty()) {
     session.RunScript(std::cin);
   }
@@ -85,13 +90,23 @@ int main(int argc, char** argv) {
   app.add_option("--device-root", options.deviceRoot,
                  "folder of the television's files; a temporary one by default");
   app.add_option("--script", options.script, "runs the lines of this file, \"-\" for the standard input");
-  app.add_option("--log", options.log, "file for what engine and runtime write to standard error");
+  app.add_option("--log", options.log, "file for what engine and runtime write");
+  app.add_option("--microphone", options.media.microphone,
+                 "WAV file (48 kHz) that the microphone hears over and over; a tone by default");
+  app.add_option("--camera", options.media.camera,
+                 "folder of JPEG pictures that the camera sees in turn; a moving test picture by default")
+      ->expected(0, 1);
+  app.add_option("--speaker", options.media.speaker, "WAV file that keeps what the speaker plays");
+  app.add_option("--screen", options.media.screen,
+                 "folder that keeps the last " + std::to_string(television::ScreenFolder::kMostPictures) +
+                     " pictures that the screen shows");
   app.add_flag("--tour", options.tour, "shows a short tour first");
   CLI11_PARSE(app, argc, argv);
+  television::Screen screen;
   try {
-    return Run(options);
+    return Run(options, screen);
   } catch (const std::exception& error) {
-    std::printf("zelto-tv: %s\n", error.what());
+    screen.Line(std::string("zelto-tv: ") + error.what());
     return EXIT_FAILURE;
   }
 }

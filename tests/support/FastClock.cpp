@@ -20,6 +20,11 @@ int FastClock::WaitCondition(pthread_cond_t* condition, pthread_mutex_t* mutex, 
   return Platform::WaitCondition(condition, mutex, nanoseconds / m_factor);
 }
 
+int FastClock::WaitConditionByWallClock(pthread_cond_t* condition, pthread_mutex_t* mutex,
+                                        std::int64_t nanoseconds) {
+  return Platform::WaitConditionByWallClock(condition, mutex, nanoseconds / m_factor);
+}
+
 int FastClock::LockMutex(pthread_mutex_t* mutex, std::int64_t nanoseconds) {
   return Platform::LockMutex(mutex, nanoseconds / m_factor);
 }

@@ -16,6 +16,8 @@ class FastClock : public zelto::Platform {
   std::int64_t WallClock() override;
   void Sleep(std::int64_t nanoseconds) override;
   int WaitCondition(pthread_cond_t* condition, pthread_mutex_t* mutex, std::int64_t nanoseconds) override;
+  int WaitConditionByWallClock(pthread_cond_t* condition, pthread_mutex_t* mutex,
+                               std::int64_t nanoseconds) override;
   int LockMutex(pthread_mutex_t* mutex, std::int64_t nanoseconds) override;
 
  private:

@@ -34,6 +34,17 @@ const Row& Choose(const Row (&rows)[N], const std::string& name) {
   Refuse("\"" + name + "\" is none of " + known);
 }
 
+inline std::string FromHex(const std::string& hex) {
+  std::string bytes;
+  if (hex.size() % 2 != 0 || hex.find_first_not_of("0123456789abcdefABCDEF") != std::string::npos) {
+    Refuse("hex takes pairs of digits");
+  }
+  for (std::size_t i = 0; i < hex.size(); i += 2) {
+    bytes += static_cast<char>(std::stoi(hex.substr(i, 2), nullptr, 16));
+  }
+  return bytes;
+}
+
 inline Session& SessionOf(Controls& controls) {
   if (controls.session == nullptr) Refuse("no engine is connected");
   return *controls.session;

@@ -29,6 +29,26 @@ void SignOut(Controls& controls, const nlohmann::json& order, nlohmann::json& an
 void FailCommit(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
 void SendEvent(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
 
+// What happens to sound and pictures.
+void MediaStatus(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void SetMicVolume(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void SendPacket(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void Stall(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void SetHeaderWord(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+
+// What other people do, and how many there are.
+void ChangeContact(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void ChangePresence(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void InventContacts(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void RequestAuthorization(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+
+// What the far end of a call does.
+void Call(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void ActInCall(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void ChangeMembers(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void Speak(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void SendTone(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+
 // What happens on the way to the engine, and to the process.
 void SpoilReply(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
 void Clear(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);

@@ -8,14 +8,16 @@
 namespace simulator {
 
 class Faults;
+class Media;
 class Wire;
 struct Session;
 
-// What orders act on. The session is null while no engine is connected.
+// What orders act on. The session is null while no engine is connected, media where there is none.
 struct Controls {
   Wire& wire;
   Faults& faults;
   Session* session = nullptr;
+  Media* media = nullptr;
 };
 
 // An order is an object {"order": NAME, ...}; the answer holds "ok", and "error" in words when that is

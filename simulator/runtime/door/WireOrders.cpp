@@ -6,6 +6,7 @@
 #include "simulator/runtime/door/Faults.h"
 #include "simulator/runtime/door/OrderArguments.h"
 #include "simulator/runtime/door/OrderTable.h"
+#include "simulator/runtime/media/Media.h"
 
 namespace simulator {
 namespace orders {
@@ -45,17 +46,6 @@ struct DeathRow {
   Death death;
 };
 
-std::string FromHex(const std::string& hex) {
-  std::string bytes;
-  if (hex.size() % 2 != 0 || hex.find_first_not_of("0123456789abcdefABCDEF") != std::string::npos) {
-    Refuse("hex takes pairs of digits");
-  }
-  for (std::size_t i = 0; i < hex.size(); i += 2) {
-    bytes += static_cast<char>(std::stoi(hex.substr(i, 2), nullptr, 16));
-  }
-  return bytes;
-}
-
 }  // namespace
 
 void SpoilReply(Controls& controls, const json& order, json&) {
@@ -71,6 +61,7 @@ void SpoilReply(Controls& controls, const json& order, json&) {
 void Clear(Controls& controls, const json&, json&) {
   controls.faults.Clear();
   controls.wire.Reset();
+  if (controls.media != nullptr) controls.media->Stall(false);
   if (controls.session != nullptr) controls.session->commit.FailNext(0);
 }
 

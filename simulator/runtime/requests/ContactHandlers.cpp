@@ -9,7 +9,8 @@
 namespace simulator {
 namespace {
 
-constexpr int kCanBeCalled = 1;  // of the contact capabilities
+constexpr int kCanBeCalled = 1;            // of the contact capabilities
+constexpr std::size_t kLongestText = 300;  // of a name or number that the user gives
 
 // The object that an argument names, if it is of that class.
 Object* Argument(Session& session, const Exchange& exchange, const char* key, const ZEClass& type) {
@@ -32,40 +33,78 @@ void GetTypeByIdentity(Session&, Exchange& exchange) {
   exchange.Answer(ZEKey::Result, static_cast<int>(TypeOfIdentity(exchange.Text(ZEKey::Identity))));
 }
 
+void FindContactBySpeedDial(Session& session, Exchange& exchange) {
+  exchange.AnswerObject(ZEKey::Result, session.contacts.FindBySpeedDial(exchange.Text(ZEKey::SpeedDial)));
+}
+
+void FindContactByPstnNumber(Session& session, Exchange& exchange) {
+  int property = 0;
+  exchange.AnswerObject(ZEKey::Result,
+                        session.contacts.FindByNumber(exchange.Text(ZEKey::PhoneNumber), property));
+  exchange.Answer(ZEKey::MatchedProperty, property);
+}
+
 void GetHardwiredContactGroup(Session& session, Exchange& exchange) {
   // Whoever asks for a group by a name that is no type of the protocol sends an empty token, and means the
   // contacts proper.
   const bool unnamed = exchange.Text(ZEKey::Type).empty();
   const int type = unnamed ? int{group::kAccounts} : exchange.Enumerator(ZEKey::Type);
-  exchange.AnswerObject(ZEKey::Result, session.contacts.HardwiredGroup(type));
+  exchange.AnswerObject(ZEKey::Result, session.contacts.Groups().Hardwired(type));
 }
 
-void GetCustomContactGroups(Session&, Exchange& exchange) { exchange.Answer(ZEKey::Objects, ""); }
+void GetCustomContactGroups(Session& session, Exchange& exchange) {
+  exchange.AnswerObjects(ZEKey::Objects, session.contacts.Groups().Custom());
+}
+
+void CreateCustomContactGroup(Session& session, Exchange& exchange) {
+  exchange.AnswerObject(ZEKey::Result, session.contacts.Groups().CreateCustom());
+}
 
 void GetContacts(Session& session, Exchange& exchange) {
-  exchange.AnswerObjects(ZEKey::Objects, session.contacts.Members(exchange.Target()));
+  exchange.AnswerObjects(ZEKey::Objects, session.contacts.Groups().Members(exchange.Target()));
 }
 
-void CanChange(Session&, Exchange& exchange) {
-  const int type = exchange.Target().GetInt(group::kType);
-  exchange.Answer(ZEKey::Result, type == group::kAccounts || type == group::kPhones);
+// The hardwired groups that are parts of the list; the others follow from what people are.
+bool IsList(const Object& group) {
+  const int type = group.GetInt(group::kType);
+  return type == group::kAll || type == group::kAccounts || type == group::kPhones;
 }
 
-void AddContact(Session& session, Exchange& exchange) {
+void CanChange(Session& session, Exchange& exchange) {
+  const Object& group = exchange.Target();
+  exchange.Answer(ZEKey::Result, IsList(group) || session.contacts.Groups().IsCustom(group));
+}
+
+void ChangeGroup(Session& session, Exchange& exchange, bool member) {
+  Object& group = exchange.Target();
   Object* contact = Argument(session, exchange, ZEKey::Contact, CONTACT_CLASS);
-  if (contact != nullptr) session.contacts.SetBuddy(*contact, true);
-  exchange.Answer(ZEKey::Result, contact != nullptr);
+  bool done = false;
+  if (contact != nullptr && IsList(group)) {
+    session.contacts.SetBuddy(*contact, member);
+    done = true;
+  } else if (contact != nullptr) {
+    done = session.contacts.SetGroupMember(group, *contact, member);
+  }
+  exchange.Answer(ZEKey::Result, done);
 }
 
-void RemoveContact(Session& session, Exchange& exchange) {
-  Object* contact = Argument(session, exchange, ZEKey::Contact, CONTACT_CLASS);
-  if (contact != nullptr) session.contacts.SetBuddy(*contact, false);
-  exchange.Answer(ZEKey::Result, contact != nullptr);
+void AddContact(Session& session, Exchange& exchange) { ChangeGroup(session, exchange, true); }
+void RemoveContact(Session& session, Exchange& exchange) { ChangeGroup(session, exchange, false); }
+
+void RenameGroup(Session& session, Exchange& exchange) {
+  const std::string name = exchange.Text(ZEKey::DisplayName);
+  const bool fits = name.size() <= kLongestText;
+  exchange.Answer(ZEKey::Result, fits && session.contacts.Groups().Rename(exchange.Target(), name));
+}
+
+void DeleteGroup(Session& session, Exchange& exchange) {
+  exchange.Answer(ZEKey::Result, session.contacts.DeleteGroup(exchange.Target()));
 }
 
 void IsMemberOf(Session& session, Exchange& exchange) {
   const Object* group = Argument(session, exchange, ZEKey::Group, CONTACTGROUP_CLASS);
-  exchange.Answer(ZEKey::Result, group != nullptr && session.contacts.IsMember(*group, exchange.Target().id));
+  exchange.Answer(ZEKey::Result,
+                  group != nullptr && session.contacts.Groups().IsMember(*group, exchange.Target().id));
 }
 
 void GiveAuthLevel(Session& session, Exchange& exchange) {
@@ -75,8 +114,27 @@ void GiveAuthLevel(Session& session, Exchange& exchange) {
 }
 
 void GiveDisplayName(Session& session, Exchange& exchange) {
-  session.world.Set(exchange.Target(), contact::kDisplayName, exchange.Text(ZEKey::DisplayName));
-  exchange.Answer(ZEKey::Result, 1);
+  const std::string name = exchange.Text(ZEKey::DisplayName);
+  const bool fits = name.size() <= kLongestText;
+  if (fits) session.contacts.GiveName(exchange.Target(), name);
+  exchange.Answer(ZEKey::Result, fits);
+}
+
+void AssignSpeedDial(Session& session, Exchange& exchange) {
+  const std::string keys = exchange.Text(ZEKey::SpeedDial);
+  const bool fits = keys.size() <= kLongestText;
+  if (fits) session.contacts.SetSpeedDial(exchange.Target(), keys);
+  exchange.Answer(ZEKey::Result, fits);
+}
+
+void SetPhoneNumber(Session& session, Exchange& exchange) {
+  const int slot = exchange.Number(ZEKey::Slot);
+  const std::string label = exchange.Text(ZEKey::Label);
+  const std::string number = exchange.Text(ZEKey::Number);
+  const bool good = slot >= 1 && slot <= contact::kNumberSlots && label.size() <= kLongestText &&
+                    number.size() <= kLongestText;
+  if (good) session.contacts.SetNumber(exchange.Target(), slot, label, number);
+  exchange.Answer(ZEKey::Result, good);
 }
 
 void SetBuddyStatus(Session& session, Exchange& exchange) {
@@ -84,36 +142,55 @@ void SetBuddyStatus(Session& session, Exchange& exchange) {
   exchange.Answer(ZEKey::Result, 1);
 }
 
-void HasCapability(Session&, Exchange& exchange) {
-  exchange.Answer(ZEKey::Result, exchange.Enumerator(ZEKey::Capability) == kCanBeCalled);
+// Telephones cannot be asked. People of the service say yes at once; a name that nobody has never answers.
+void SendAuthRequest(Session&, Exchange& exchange) {
+  exchange.Answer(ZEKey::Result, !Contacts::IsPhone(exchange.Target()));
 }
 
-// Everybody has authorised everybody: the other side cannot say no yet.
-void HasAuthorizedMe(Session&, Exchange& exchange) { exchange.Answer(ZEKey::Result, 1); }
+void HasCapability(Session& session, Exchange& exchange) {
+  const int capability = exchange.Enumerator(ZEKey::Capability);
+  const bool has = capability == kCanBeCalled ||
+                   session.service.CapabilityOf(Contacts::IdentityOf(exchange.Target()), capability).status !=
+                       Capability().status;
+  exchange.Answer(ZEKey::Result, has);
+}
+
+void HasAuthorizedMe(Session& session, Exchange& exchange) {
+  exchange.Answer(ZEKey::Result, session.contacts.HasAuthorizedMe(exchange.Target()));
+}
 
 void GetAvatar(Session&, Exchange& exchange) {
   exchange.AnswerBinary(ZEKey::Result, exchange.Target().GetText(contact::kPicture));
 }
 
-// The profile is as fresh as it can be.
-void RefreshProfile(Session&, Exchange&) {}
+void RefreshProfile(Session& session, Exchange& exchange) {
+  session.contacts.RefreshProfile(exchange.Target());
+}
 
 // clang-format off
 constexpr HandlerRow kRows[] = {
     {&RootMethod::GetContact,               GetContact},
+    {&RootMethod::FindContactBySpeedDial,   FindContactBySpeedDial},
+    {&RootMethod::FindContactByPstnNumber,  FindContactByPstnNumber},
     {&RootMethod::NormalizeIdentity,        NormalizeIdentityText},
     {&RootMethod::GetTypeByIdentity,        GetTypeByIdentity},
     {&RootMethod::GetHardwiredContactGroup, GetHardwiredContactGroup},
     {&RootMethod::GetCustomContactGroups,   GetCustomContactGroups},
+    {&RootMethod::CreateCustomContactGroup, CreateCustomContactGroup},
     {&ContactGroupMethod::GetContacts,      GetContacts},
+    {&ContactGroupMethod::GiveDisplayName,  RenameGroup},
     {&ContactGroupMethod::CanAddContact,    CanChange},
     {&ContactGroupMethod::CanRemoveContact, CanChange},
     {&ContactGroupMethod::AddContact,       AddContact},
     {&ContactGroupMethod::RemoveContact,    RemoveContact},
+    {&ContactGroupMethod::Delete,           DeleteGroup},
     {&ContactMethod::IsMemberOf,            IsMemberOf},
     {&ContactMethod::GiveAuthLevel,         GiveAuthLevel},
     {&ContactMethod::GiveDisplayName,       GiveDisplayName},
+    {&ContactMethod::AssignSpeedDial,       AssignSpeedDial},
+    {&ContactMethod::SetPhoneNumber,        SetPhoneNumber},
     {&ContactMethod::SetBuddyStatus,        SetBuddyStatus},
+    {&ContactMethod::SendAuthRequest,       SendAuthRequest},
     {&ContactMethod::HasCapability,         HasCapability},
     {&ContactMethod::HasAuthorizedMe,       HasAuthorizedMe},
     {&ContactMethod::GetAvatar,             GetAvatar},

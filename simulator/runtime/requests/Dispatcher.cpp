@@ -54,7 +54,7 @@ void AddMethods(Table& table, const ZEMethod* const* begin, const ZEMethod* cons
 Table BuildTable() {
   std::unordered_map<const ZEMethod*, const HandlerRow*> handlers;
   for (const HandlerRows& rows : {ObjectHandlers(), RootHandlers(), SettingHandlers(), AccountHandlers(),
-                                  ContactHandlers(), SearchHandlers()}) {
+                                  ContactHandlers(), CallHandlers(), NameHandlers(), SearchHandlers()}) {
     for (const HandlerRow& row : rows) handlers.emplace(row.method, &row);
   }
   Table table;

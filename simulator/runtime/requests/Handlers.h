@@ -33,6 +33,8 @@ HandlerRows RootHandlers();     // start, stop, versions, clocks
 HandlerRows SettingHandlers();  // the settings store
 HandlerRows AccountHandlers();  // accounts, signing in and out
 HandlerRows ContactHandlers();  // contacts and their groups
+HandlerRows CallHandlers();     // calls, their members and pictures
+HandlerRows NameHandlers();     // names and codes of countries and languages
 HandlerRows SearchHandlers();   // searches, and lists of what there is nothing of yet
 
 }  // namespace simulator

@@ -8,6 +8,7 @@ namespace account {
 enum Property : int {
   kName = 1,
   kFullName = 2,
+  kGender = 4,
   kLanguage = 5,
   kCountry = 6,
   kCity = 8,

@@ -40,7 +40,7 @@ struct Capability {
 // Threads: called by the event loop's only thread.
 class Service {
  public:
-  using Properties = std::map<int, Value>;  // of an account, by their number
+  using Properties = std::map<int, Value>;  // by their number, of an account where nothing else is said
 
   virtual ~Service() = default;
 
@@ -60,10 +60,36 @@ class Service {
   virtual bool StoreProfile(std::string_view name, const Properties& values) = 0;
   virtual Capability CapabilityOf(std::string_view name, int capability) = 0;
 
+  // Contact availability of an account (CONTACT_AVAILABILITY_MAP) at the moment; offline when it does not
+  // exist.
+  virtual int PresenceOf(std::string_view name) = 0;
+
+  // The contact list.
   virtual std::vector<std::string> Contacts(std::string_view name) = 0;
   // False when nothing was changed.
   virtual bool AddContact(std::string_view name, std::string_view contact) = 0;
   virtual bool RemoveContact(std::string_view name, std::string_view contact) = 0;
+  // For trying out long lists: adds so many people who did not exist, and answers who they are.
+  virtual std::vector<std::string> AddInventedContacts(std::string_view name, int count, unsigned seed) = 0;
+
+  // What an account keeps about others, listed or not: properties of contacts by their number.
+  virtual std::map<std::string, Properties> Notes(std::string_view name) = 0;
+  // An empty value takes the note away.
+  virtual void Note(std::string_view name, std::string_view contact, int property,
+                    std::string_view value) = 0;
+
+  // The groups that the account's user has made.
+  struct Group {
+    std::int64_t number;  // never 0
+    std::string name;
+    std::vector<std::string> members;
+  };
+  virtual std::vector<Group> Groups(std::string_view name) = 0;
+  virtual std::int64_t CreateGroup(std::string_view name) = 0;
+  // False when the account has no such group.
+  virtual bool RenameGroup(std::string_view name, std::int64_t group, std::string_view to) = 0;
+  virtual bool DeleteGroup(std::string_view name, std::int64_t group) = 0;
+  virtual void SetGroupMember(std::int64_t group, std::string_view contact, bool member) = 0;
 };
 
 }  // namespace simulator

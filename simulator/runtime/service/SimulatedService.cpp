@@ -24,6 +24,15 @@ constexpr char kSchema[] =
     " capability INTEGER NOT NULL, expiry INTEGER NOT NULL, PRIMARY KEY (account, capability)) WITHOUT "
     "ROWID;";
 
+constexpr char kNotesAndGroups[] =
+    "CREATE TABLE notes (account TEXT NOT NULL REFERENCES accounts ON DELETE CASCADE,"
+    " contact TEXT NOT NULL, property INTEGER NOT NULL, value TEXT NOT NULL,"
+    " PRIMARY KEY (account, contact, property)) WITHOUT ROWID;"
+    "CREATE TABLE contact_groups (number INTEGER PRIMARY KEY AUTOINCREMENT,"
+    " account TEXT NOT NULL REFERENCES accounts ON DELETE CASCADE, name TEXT NOT NULL);"
+    "CREATE TABLE contact_group_members (number INTEGER NOT NULL REFERENCES contact_groups ON DELETE CASCADE,"
+    " contact TEXT NOT NULL, PRIMARY KEY (number, contact)) WITHOUT ROWID;";
+
 constexpr std::int64_t kSecondsPerDay = 24 * 60 * 60;
 constexpr std::size_t kSuggestions = 3;
 
@@ -32,7 +41,7 @@ std::int64_t Now() { return std::time(nullptr); }
 }  // namespace
 
 SimulatedService::SimulatedService(const std::string& folder)
-    : m_database(folder + "/service.db", {kSchema}) {
+    : m_database(folder + "/service.db", {kSchema, kNotesAndGroups}) {
   AddDemoAccounts();
 }
 
@@ -45,6 +54,7 @@ void SimulatedService::AddDemoAccounts() {
             {account::kCity, {demo.city}},
             {account::kMood, {demo.mood}}});
   }
+  AddDemoContacts();
   transaction.Commit();
 }
 
@@ -66,9 +76,15 @@ void SimulatedService::Create(const Registration& registration, const Properties
                        {account::kPicture, {EscapeBinary(PictureOf(name)), true}},
                        {account::kEmails, {registration.email}}};
   for (const auto& [property, value] : profile) values[property] = value;
+  StoreValues(name, values);
+}
+
+void SimulatedService::StoreValues(std::string_view name, const Properties& values) {
   for (const auto& [property, value] : values) {
-    m_database.Run("INSERT INTO profile VALUES (?, ?, ?, ?)",
-                   {name, std::int64_t{property}, std::string_view(value.text), std::int64_t{value.binary}});
+    m_database.Run(
+        "INSERT INTO profile VALUES (?1, ?2, ?3, ?4)"
+        " ON CONFLICT DO UPDATE SET value = ?3, binary = ?4",
+        {name, std::int64_t{property}, std::string_view(value.text), std::int64_t{value.binary}});
   }
 }
 
@@ -147,12 +163,7 @@ Service::Properties SimulatedService::Profile(std::string_view name) {
 bool SimulatedService::StoreProfile(std::string_view name, const Properties& values) {
   if (!Exists(name)) return false;
   Database::Transaction transaction(m_database);
-  for (const auto& [property, value] : values) {
-    m_database.Run(
-        "INSERT INTO profile VALUES (?1, ?2, ?3, ?4)"
-        " ON CONFLICT DO UPDATE SET value = ?3, binary = ?4",
-        {name, std::int64_t{property}, std::string_view(value.text), std::int64_t{value.binary}});
-  }
+  StoreValues(name, values);
   transaction.Commit();
   return true;
 }
@@ -163,22 +174,6 @@ Capability SimulatedService::CapabilityOf(std::string_view name, int capability)
   if (!rows.Next()) return {};
   const std::int64_t expiry = rows.Number(0);
   return {CapabilityStatus(expiry, Now()), expiry};
-}
-
-std::vector<std::string> SimulatedService::Contacts(std::string_view name) {
-  std::vector<std::string> contacts;
-  auto rows = m_database.Ask("SELECT contact FROM contacts WHERE account = ? ORDER BY contact", {name});
-  while (rows.Next()) contacts.push_back(rows.Text(0));
-  return contacts;
-}
-
-bool SimulatedService::AddContact(std::string_view name, std::string_view contact) {
-  if (!Exists(name)) return false;
-  return m_database.Run("INSERT INTO contacts VALUES (?, ?) ON CONFLICT DO NOTHING", {name, contact}) == 1;
-}
-
-bool SimulatedService::RemoveContact(std::string_view name, std::string_view contact) {
-  return m_database.Run("DELETE FROM contacts WHERE account = ? AND contact = ?", {name, contact}) == 1;
 }
 
 }  // namespace simulator

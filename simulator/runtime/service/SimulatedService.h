@@ -30,10 +30,22 @@ class SimulatedService : public Service {
   std::vector<std::string> Contacts(std::string_view name) override;
   bool AddContact(std::string_view name, std::string_view contact) override;
   bool RemoveContact(std::string_view name, std::string_view contact) override;
+  std::vector<std::string> AddInventedContacts(std::string_view name, int count, unsigned seed) override;
+  int PresenceOf(std::string_view name) override;
+  std::map<std::string, Properties> Notes(std::string_view name) override;
+  void Note(std::string_view name, std::string_view contact, int property, std::string_view value) override;
+  std::vector<Group> Groups(std::string_view name) override;
+  std::int64_t CreateGroup(std::string_view name) override;
+  bool RenameGroup(std::string_view name, std::int64_t group, std::string_view to) override;
+  bool DeleteGroup(std::string_view name, std::int64_t group) override;
+  void SetGroupMember(std::int64_t group, std::string_view contact, bool member) override;
 
  private:
   void AddDemoAccounts();
+  void AddDemoContacts();
+  void GiveDemoContacts(std::string_view name);
   void Create(const Registration& registration, const Properties& profile);
+  void StoreValues(std::string_view name, const Properties& values);
   std::string PasswordOf(std::string_view name);
 
   Database m_database;

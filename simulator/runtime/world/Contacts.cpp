@@ -1,36 +1,95 @@
 #include "simulator/runtime/world/Contacts.h"
 
+#include <iterator>
+#include <set>
+
 #include "apiwrapper/tables/Classes.h"
 #include "apiwrapper/tables/Events.h"
-#include "simulator/runtime/protocol/Message.h"
 #include "simulator/runtime/protocol/Values.h"
-#include "simulator/runtime/service/AccountProperties.h"
 #include "simulator/runtime/service/AccountRules.h"
 #include "simulator/runtime/world/ContactProperties.h"
+#include "simulator/runtime/world/MagicNames.h"
 
 namespace simulator {
 namespace {
 
-// The echo service: always there, known to every account.
-constexpr std::string_view kSoundTest = "sndtest";
+// Where another person's number may stand.
+constexpr int kNumberProperties[] = {
+    contact::kPhoneNumber,    contact::kHomePhone,      contact::kOfficePhone,   contact::kMobilePhone,
+    contact::NumberOfSlot(1), contact::NumberOfSlot(2), contact::NumberOfSlot(3)};
+
+// A contact shows what its account tells of itself: the same property has the same token in both classes.
+std::map<int, int> ShownProperties() {
+  std::map<int, int> shown;
+  for (const PMAP* row = ACCOUNT_CLASS.properties; row->name != nullptr; ++row) {
+    const int property = PropertyByToken(CONTACT_CLASS, row->name);
+    if (property != 0 && property != contact::kIdentity && property != contact::kAvailability) {
+      shown.emplace(row->value, property);
+    }
+  }
+  return shown;
+}
+
+bool IsOnline(int availability) {
+  return availability != contact::kOffline && availability != contact::kPending &&
+         availability != contact::kPhone;
+}
 
 }  // namespace
 
+const std::string& Contacts::IdentityOf(const Object& contact) {
+  return contact.GetText(IsPhone(contact) ? contact::kPhoneNumber : contact::kIdentity);
+}
+
+bool Contacts::IsPhone(const Object& contact) {
+  return contact.GetInt(contact::kType) == static_cast<int>(IdentityType::Phone);
+}
+
+bool Contacts::HasAuthorizedMe(const Object& contact) const {
+  const std::string& identity = IdentityOf(contact);
+  return IsPhone(contact) || IsMagicName(identity) || m_service.Exists(identity);
+}
+
 void Contacts::Load(std::string_view account) {
   Forget();
-  const std::vector<std::string> names = m_service.Contacts(account);
-  for (const std::string& name : names) {
-    Object* object = Find(name);
-    if (object == nullptr) continue;
-    m_world.SetInt(*object, contact::kAuthLevel, contact::kAuthorized);
-    SetBuddy(*object, true);
+  const std::vector<std::string> list = m_service.Contacts(account);
+  const std::set<std::string> listed(list.begin(), list.end());
+  const std::map<std::string, Notes> notes = m_service.Notes(account);
+  const ContactGroups::Quiet quiet(m_groups);
+  for (const std::string& identity : listed) Find(identity);
+  for (const auto& [identity, ignored] : notes) Find(identity);
+  m_groups.LoadCustom(account, m_byIdentity);
+  for (const auto& [identity, id] : m_byIdentity) {
+    Object* contact = m_world.Find(id);
+    if (contact == nullptr) continue;
+    const auto noted = notes.find(identity);
+    Apply(*contact, listed.count(identity) != 0, noted == notes.end() ? Notes() : noted->second);
   }
   m_account = account;
 }
 
+void Contacts::Apply(Object& contact, bool listed, const Notes& notes) {
+  if (listed) m_listed.insert(contact.id);
+  // Whoever is in the list is authorized unless something else is noted.
+  Notes values = {
+      {contact::kAuthLevel, {std::to_string(listed ? contact::kAuthorized : contact::kNotAuthorized)}},
+      {contact::kGivenName, {}},
+      {contact::kSpeedDial, {}},
+      {contact::kRequested, {"0"}}};
+  for (int property = contact::kFirstNumber; property <= contact::kLastNumber; ++property)
+    values[property] = {};
+  for (const auto& [property, value] : notes) values[property] = value;
+  for (const auto& [property, value] : values) {
+    if (contact.Get(property).text != value.text) m_world.Set(contact, property, value);
+  }
+  ShowName(contact, true);
+  Settle(contact);
+}
+
 void Contacts::Forget() {
   m_account.clear();
-  m_members.clear();
+  m_listed.clear();
+  m_groups.Forget();
 }
 
 Object* Contacts::Find(std::string_view identity) {
@@ -43,78 +102,97 @@ Object* Contacts::Find(std::string_view identity) {
   m_byIdentity.emplace(normalized.identity, object.id);
   const IdentityType type = TypeOfIdentity(normalized.identity);
   const bool phone = type == IdentityType::Phone;
-  const bool present = normalized.identity == kSoundTest || m_service.Exists(normalized.identity);
+  const int presence = phone                              ? int{contact::kPhone}
+                       : IsMagicName(normalized.identity) ? int{contact::kOnline}
+                                                          : m_service.PresenceOf(normalized.identity);
   m_world.PutInt(object, contact::kType, static_cast<int>(type));
   m_world.Put(object, phone ? contact::kPhoneNumber : contact::kIdentity, normalized.identity);
-  m_world.Put(object, contact::kDisplayName, normalized.identity);
   m_world.PutInt(object, contact::kAuthLevel, contact::kNotAuthorized);
-  m_world.PutInt(object, contact::kAvailability,
-                 phone     ? contact::kPhone
-                 : present ? contact::kOnline
-                           : contact::kOffline);
-  if (!phone) FillProfile(object, normalized.identity);
+  m_world.PutInt(object, contact::kPresence, presence);
+  m_world.PutInt(object, contact::kAvailability, presence);
+  m_world.PutInt(object, contact::kRequested, 0);
+  if (!phone) FillProfile(object, false);
+  ShowName(object, false);
   return &object;
 }
 
-void Contacts::FillProfile(Object& object, std::string_view name) {
-  // A contact shows what its account tells of itself: the same property has the same token in both classes.
-  for (const auto& [property, value] : m_service.Profile(name)) {
-    const char* token = ZEProtocol::TokenOf(ACCOUNT_CLASS.properties, property);
-    const int shown = token == nullptr ? 0 : PropertyByToken(CONTACT_CLASS, token);
-    if (shown != 0) m_world.Put(object, shown, value);
+Object* Contacts::FindByNumber(std::string_view number, int& property) {
+  const NormalizedIdentity wanted = NormalizeIdentity(number, false);
+  if (wanted.verdict != NameVerdict::Good || TypeOfIdentity(wanted.identity) != IdentityType::Phone)
+    return nullptr;
+  for (const unsigned id : m_listed) {
+    Object* contact = m_world.Find(id);
+    if (contact == nullptr) continue;
+    for (const int candidate : kNumberProperties) {
+      const std::string& text = contact->GetText(candidate);
+      if (text.empty() || NormalizeIdentity(text, false).identity != wanted.identity) continue;
+      property = candidate;
+      return contact;
+    }
+  }
+  return nullptr;
+}
+
+Object* Contacts::FindBySpeedDial(std::string_view keys) {
+  if (keys.empty()) return nullptr;
+  for (const unsigned id : m_listed) {
+    Object* contact = m_world.Find(id);
+    if (contact != nullptr && contact->GetText(contact::kSpeedDial) == keys) return contact;
+  }
+  return nullptr;
+}
+
+void Contacts::FillProfile(Object& contact, bool tell) {
+  static const std::map<int, int> kShown = ShownProperties();
+  for (const auto& [property, value] : m_service.Profile(IdentityOf(contact))) {
+    const auto shown = kShown.find(property);
+    if (shown != kShown.end()) Put(contact, shown->second, value, tell);
   }
 }
 
-Object* Contacts::HardwiredGroup(int type) {
-  if (type < group::kFirst || type > group::kLast) return nullptr;
-  const auto known = m_groups.find(type);
-  if (known != m_groups.end()) return m_world.Find(known->second);
-  Object& object = m_world.Create(CONTACTGROUP_CLASS);
-  m_groups.emplace(type, object.id);
-  m_world.PutInt(object, group::kType, type);
-  m_world.PutInt(object, group::kContacts, 0);
-  return &object;
-}
-
-std::vector<unsigned> Contacts::Members(const Object& group) const {
-  const auto members = m_members.find(group.id);
-  if (members == m_members.end()) return {};
-  return {members->second.begin(), members->second.end()};
-}
-
-bool Contacts::IsMember(const Object& group, unsigned contact) const {
-  const auto members = m_members.find(group.id);
-  return members != m_members.end() && members->second.count(contact) != 0;
-}
-
-void Contacts::Change(Object& group, Object& contact, bool member) {
-  std::set<unsigned>& members = m_members[group.id];
-  const bool changed = member ? members.insert(contact.id).second : members.erase(contact.id) == 1;
-  if (!changed) return;
-  m_world.SetInt(group, group::kContacts, static_cast<long long>(members.size()));
-  std::string pairs;
-  PairWriter writer(pairs);
-  writer.Number(ZEKey::Contact, contact.id);
-  writer.Number(ZEKey::Added, member);
-  m_world.Event(group, ZEEventNumber::GroupChanged, pairs);
-}
-
-void Contacts::SetBuddy(Object& contact, bool buddy) {
-  const bool phone = contact.GetInt(contact::kType) == static_cast<int>(IdentityType::Phone);
-  const int own = phone ? group::kPhones : group::kAccounts;
-  for (const int type : {int{group::kAll}, own}) Change(*HardwiredGroup(type), contact, buddy);
-  if (m_account.empty()) return;
-  const std::string& identity = contact.GetText(phone ? contact::kPhoneNumber : contact::kIdentity);
-  if (buddy) {
-    m_service.AddContact(m_account, identity);
+void Contacts::Put(Object& contact, int property, Value value, bool tell) {
+  if (tell) {
+    m_world.Set(contact, property, std::move(value));
   } else {
-    m_service.RemoveContact(m_account, identity);
+    m_world.Put(contact, property, std::move(value));
   }
 }
 
-void Contacts::SetAuthLevel(Object& contact, int level) {
-  m_world.SetInt(contact, contact::kAuthLevel, level);
-  Change(*HardwiredGroup(group::kBlocked), contact, level == contact::kBlocked);
+void Contacts::ShowName(Object& contact, bool tell) {
+  for (const int property : {int{contact::kGivenName}, int{contact::kFullName}}) {
+    const std::string name = contact.GetText(property);
+    if (name.empty()) continue;
+    Put(contact, contact::kDisplayName, {name}, tell);
+    return;
+  }
+  Put(contact, contact::kDisplayName, {IdentityOf(contact)}, tell);
+}
+
+void Contacts::Note(Object& contact, int property, const std::string& value) {
+  if (!m_account.empty()) m_service.Note(m_account, IdentityOf(contact), property, value);
+  m_world.Set(contact, property, value);
+}
+
+void Contacts::Settle(Object& contact) {
+  const int presence = contact.GetInt(contact::kPresence);
+  Standing standing;
+  standing.listed = IsListed(contact);
+  standing.phone = IsPhone(contact);
+  standing.trusting = HasAuthorizedMe(contact);
+  standing.waiting = contact.GetInt(contact::kRequested) != 0;
+  standing.level = contact.GetInt(contact::kAuthLevel);
+  standing.grouped = m_groups.IsInCustomGroup(contact);
+  // Who asks has not been answered, and who is blocked is not watched.
+  const int availability = standing.waiting                      ? int{contact::kPending}
+                           : standing.level == contact::kBlocked ? int{contact::kOffline}
+                                                                 : presence;
+  standing.online = IsOnline(availability);
+  const bool before = IsOnline(contact.GetInt(contact::kAvailability));
+  m_world.SetInt(contact, contact::kAvailability, availability);
+  m_groups.Place(contact, standing);
+  if (!standing.listed || before == standing.online || m_account.empty()) return;
+  m_world.Event(contact,
+                standing.online ? ZEEventNumber::ContactOnlineAppearance : ZEEventNumber::ContactGoneOffline);
 }
 
 }  // namespace simulator

@@ -1,4 +1,4 @@
-// The contacts of the account that is signed in, and the groups they are in.
+// The contacts of the account that is signed in, and everybody else who was asked for.
 #pragma once
 
 #include <map>
@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "simulator/runtime/service/Service.h"
+#include "simulator/runtime/world/ContactGroups.h"
 #include "simulator/runtime/world/World.h"
 
 namespace simulator {
@@ -15,35 +16,64 @@ namespace simulator {
 // Threads: none of its own.
 class Contacts {
  public:
-  Contacts(World& world, Service& service) : m_world(world), m_service(service) {}
+  Contacts(World& world, Service& service) : m_groups(world, service), m_world(world), m_service(service) {}
 
-  // Fills the groups from the service; after that changes are stored there. Forget() empties them, as when
-  // the account signs out, without a word: the engine forgets its list by itself.
+  // Takes list, groups and everything that the account has noted about others from the service; after that
+  // changes are stored there. Forget() makes them strangers again, as when the account signs out; what the
+  // engine has been told stays until the next account is loaded.
   void Load(std::string_view account);
   void Forget();
 
   // The contact of an account or phone number, made when it is met first; null for what is neither.
   Object* Find(std::string_view identity);
-  // The account's group of a hardwired type; null for no type.
-  Object* HardwiredGroup(int type);
+  // The listed contact that has this as its own or an assigned number, and the property that holds it; null
+  // for nobody.
+  Object* FindByNumber(std::string_view number, int& property);
+  Object* FindBySpeedDial(std::string_view keys);
 
-  std::vector<unsigned> Members(const Object& group) const;
-  bool IsMember(const Object& group, unsigned contact) const;
+  ContactGroups& Groups() { return m_groups; }
+  // Account name or phone number, whichever the contact has.
+  static const std::string& IdentityOf(const Object& contact);
+  static bool IsPhone(const Object& contact);
+  bool IsListed(const Object& contact) const { return m_listed.count(contact.id) != 0; }
+  // Whether the other side lets the account see it. People of the service do so with everybody.
+  bool HasAuthorizedMe(const Object& contact) const;
 
-  // Takes a contact into the list or out of it.
-  void SetBuddy(Object& contact, bool buddy);
+  // What the user does.
+  void SetBuddy(Object& contact, bool buddy);  // takes a contact into the list or out of it
   void SetAuthLevel(Object& contact, int level);
+  void GiveName(Object& contact, const std::string& name);  // an empty one takes it back
+  // Custom groups only; false for others. A deleted group's object is gone.
+  bool SetGroupMember(Object& group, Object& contact, bool member);
+  bool DeleteGroup(Object& group);
+  void SetNumber(Object& contact, int slot, const std::string& label, const std::string& number);
+  void SetSpeedDial(Object& contact, const std::string& keys);
+
+  // What the other side does.
+  void RefreshProfile(Object& contact);  // shows what the service now tells of it
+  void SetPresence(Object& contact, int availability);
+  bool Request(Object& contact);  // asks to be authorized; false when it is already, or blocked
+
+  // Contacts that have come into the list at the service, from elsewhere.
+  void TakeIn(const std::vector<std::string>& identities);
 
  private:
-  void FillProfile(Object& object, std::string_view name);
-  void Change(Object& group, Object& contact, bool member);
+  using Notes = Service::Properties;
 
+  void Apply(Object& contact, bool listed, const Notes& notes);
+  void FillProfile(Object& contact, bool tell);
+  void Put(Object& contact, int property, Value value, bool tell);
+  void Note(Object& contact, int property, const std::string& value);
+  void ShowName(Object& contact, bool tell);
+  // Availability and groups, from everything else.
+  void Settle(Object& contact);
+
+  ContactGroups m_groups;
   World& m_world;
   Service& m_service;
   std::string m_account;
   std::map<std::string, unsigned, std::less<>> m_byIdentity;
-  std::map<int, unsigned> m_groups;                  // by type
-  std::map<unsigned, std::set<unsigned>> m_members;  // by group
+  std::set<unsigned> m_listed;
 };
 
 }  // namespace simulator

@@ -194,6 +194,7 @@ void SignIn::Reset() {
   m_account = 0;
   m_name.clear();
   m_attempt = nullptr;
+  if (m_over) m_over();
   m_contacts.Forget();
 }
 

@@ -35,6 +35,9 @@ class SignIn {
   // Ends sign-in or session at once; false when there is neither.
   bool Drop(LogoutReason reason);
 
+  // Told when a sign-in or session is over, before anybody hears of its end.
+  void WhenOver(std::function<void()> over) { m_over = std::move(over); }
+
   // The account whose sign-in is under way or complete; null for none.
   Object* Current() { return m_world.Find(m_account); }
   // Name of the account whose settings apply: empty unless its password was right.
@@ -63,6 +66,7 @@ class SignIn {
   Service& m_service;
   DeviceStore& m_device;
   Scheduler& m_scheduler;
+  std::function<void()> m_over;
   std::map<std::string, unsigned, std::less<>> m_accounts;  // ids by name
   unsigned m_account = 0;
   std::string m_name;

@@ -109,7 +109,7 @@ TEST_F(Settings, OfAnAccountAppearWithItAndThoseOfTheDeviceAlways) {
 class TheContacts : public RuntimeFixture {};
 
 TEST_F(TheContacts, OfANewAccountTakeInTheSoundTest) {
-  SignIn("demo", "demo1234");
+  SignIn("nocommit", "demo1234");
   const std::string group = Result(RootMethod::GetHardwiredContactGroup, Pair(ZEKey::Type, "2012"));
   EXPECT_EQ(group, Result(RootMethod::GetHardwiredContactGroup, Pair(ZEKey::Type, "")));
   const std::string contact = Result(RootMethod::GetContact, Pair(ZEKey::Identity, "sndtest"));
@@ -119,7 +119,7 @@ TEST_F(TheContacts, OfANewAccountTakeInTheSoundTest) {
   EXPECT_EQ("1", Result(ContactMethod::SetBuddyStatus, onContact + Pair(ZEKey::Buddy, "1")));
   EXPECT_EQ(contact, Result(ContactGroupMethod::GetContacts, onGroup, ZEKey::Objects));
   EXPECT_EQ("1", Result(ContactMethod::IsMemberOf, onContact + Pair(ZEKey::Group, group)));
-  EXPECT_THAT(service.Contacts("demo"), ElementsAre("sndtest"));
+  EXPECT_THAT(service.Contacts("nocommit"), ElementsAre("sndtest"));
   EXPECT_EQ("0", Result(RootMethod::GetContact, Pair(ZEKey::Identity, "?!")));
   EXPECT_THAT(Words(),
               ::testing::Contains(AllOf(HasSubstr("ContactGroup.GroupChanged"), HasSubstr("added=1"))));

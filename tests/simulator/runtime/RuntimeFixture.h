@@ -30,10 +30,11 @@ class RecordingOutbox : public simulator::Outbox {
 
 class RuntimeFixture : public ::testing::Test {
  protected:
-  RuntimeFixture()
+  // The media, if any, must outlive the fixture.
+  explicit RuntimeFixture(simulator::MediaPort* media = nullptr)
       : device(home / "/.Zelto"),
         service(simulator::DeviceStore::DataFolder(device.Folder())),
-        session(simulator::Surroundings{service, device, outbox}),
+        session(simulator::Surroundings{service, device, outbox, 0, {}, {}, media}),
         dispatcher(session, &faults) {}
 
   // The reply's text behind the id; "" when there was none. Events go to `outbox` as well.

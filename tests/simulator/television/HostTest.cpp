@@ -4,6 +4,8 @@
 
 #include <ctime>
 
+#include "tests/support/SilentEngine.h"
+
 using television::Host;
 using television::Report;
 using television::TelevisionState;
@@ -12,16 +14,11 @@ using ::testing::ElementsAre;
 namespace {
 
 // Stands in for the engine: keeps the functions that a host registers.
-class RegistrationOnlyEngine : public IMoIPEngine {
+class RegistrationOnlyEngine : public test::SilentEngine {
  public:
-  const char* Execute(const char*, const char*, const char*, const char*, const char*) noexcept override {
-    return "";
-  }
   void RegisterEventCallback(MoIPEventCallback callback, void* user) noexcept override {
     m_event = callback, m_user = user;
   }
-  void OnData(const CAVData*) noexcept override {}
-  void RegisterDataCallback(MoIPDataCallback, void*) noexcept override {}
   void RegisterCommonCtrlFunc(MoIPCommonCtrlFunc function, void*) noexcept override { m_control = function; }
 
   std::string Control(const char* command, const char* p1 = nullptr, const char* p2 = nullptr) {
@@ -53,7 +50,16 @@ TEST_F(ATelevisionHost, KeepsWhatControlCallsStoreAndAnswersIt) {
   EXPECT_EQ(engine.Control("SetSpeakerVolume", "0"), "1");
   EXPECT_EQ(engine.Control("GetSpeakerVolume"), "0");
   EXPECT_EQ(engine.Control("StartPIGMode", "10", "20"), "1");
-  host.WithState([](TelevisionState& state) { EXPECT_EQ(state.Get("pig"), "10 20  "); });
+  host.WithState([](TelevisionState& state) { EXPECT_EQ(state.Get("pig"), "10 20"); });
+  EXPECT_EQ(engine.Control("MuteSpeakerVolume"), "1");
+  EXPECT_EQ(engine.Control("MinimizeSnapShot", "96", "96"), "0");  // no camera
+  EXPECT_EQ(engine.Control("GetCameraMicDistance", "1"), "20");
+  engine.Control("StopCallWithTV");
+  host.WithState([](TelevisionState& state) {
+    EXPECT_EQ(state.Get("speakerMuted"), "0");
+    EXPECT_THAT(state.SetByEngine(),
+                ElementsAre("call", "pig", "pipSource", "speakerMuted", "speakerVolume"));
+  });
   EXPECT_EQ(engine.Control("NoSuchCommand"), "");
 }
 
