@@ -74,4 +74,8 @@ bool Condition::WaitFor(Mutex& mutex, std::int64_t nanoseconds) {
   return System().WaitCondition(&m_condition, mutex.Native(), nanoseconds) != ETIMEDOUT;
 }
 
+bool Condition::WaitByWallClock(Mutex& mutex, std::int64_t nanoseconds) {
+  return System().WaitConditionByWallClock(&m_condition, mutex.Native(), nanoseconds) != ETIMEDOUT;
+}
+
 }  // namespace zelto

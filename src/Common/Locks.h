@@ -92,6 +92,8 @@ class Condition {
   void Wait(Mutex& mutex) ZELTO_REQUIRES(mutex);
   // Waits at most that long on the platform's clock (Platform::Now). False when the time ran out.
   bool WaitFor(Mutex& mutex, std::int64_t nanoseconds) ZELTO_REQUIRES(mutex);
+  // The same by the wall clock, as Platform::WaitConditionByWallClock.
+  bool WaitByWallClock(Mutex& mutex, std::int64_t nanoseconds) ZELTO_REQUIRES(mutex);
   void NotifyAll() { pthread_cond_broadcast(&m_condition); }
 
  private:

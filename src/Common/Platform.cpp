@@ -1,5 +1,6 @@
 #include "Common/Platform.h"
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <poll.h>
 #include <sched.h>
@@ -11,10 +12,15 @@
 #include <unistd.h>
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
 #include <ctime>
 
 #include <atomic>
 #include <cstring>
+
+// A television's process may have a timed wait of its own, which takes what the standard one takes.
+extern "C" __attribute__((weak)) int pthread_cond_timedwait_relative(pthread_cond_t*, pthread_mutex_t*,
+                                                                     const timespec*);
 
 namespace zelto {
 
@@ -79,6 +85,13 @@ int Platform::LockMutex(pthread_mutex_t* mutex, std::int64_t nanoseconds) {
 #endif
 }
 
+int Platform::WaitConditionByWallClock(pthread_cond_t* condition, pthread_mutex_t* mutex,
+                                       std::int64_t nanoseconds) {
+  const timespec end = ClockAfter(CLOCK_REALTIME, nanoseconds);
+  return pthread_cond_timedwait_relative != nullptr ? pthread_cond_timedwait_relative(condition, mutex, &end)
+                                                    : pthread_cond_timedwait(condition, mutex, &end);
+}
+
 pid_t Platform::WaitPid(pid_t pid, int* status, int options) { return waitpid(pid, status, options); }
 
 int Platform::Kill(pid_t pid, int signal) { return kill(pid, signal); }
@@ -119,6 +132,18 @@ int Platform::Access(const char* path, int mode) { return access(path, mode); }
 int Platform::MakeDirectory(const char* path, mode_t mode) { return mkdir(path, mode); }
 
 int Platform::Unlink(const char* path) { return unlink(path); }
+
+bool Platform::ListDirectory(const char* path, std::vector<std::string>& names) {
+  names.clear();
+  dirent** entries = nullptr;
+  const int count = scandir(path, &entries, nullptr, alphasort);
+  for (int i = 0; i < count; ++i) {
+    names.emplace_back(entries[i]->d_name);
+    std::free(entries[i]);
+  }
+  std::free(entries);
+  return count >= 0;
+}
 
 void Platform::LimitBlocking(int descriptor, int milliseconds) {
   const timeval limit{milliseconds / 1000, milliseconds % 1000 * 1000};

@@ -53,6 +53,10 @@ class Platform {
   // number (ETIMEDOUT), as the pthread calls do. For zelto::Mutex and zelto::Condition.
   virtual int WaitCondition(pthread_cond_t* condition, pthread_mutex_t* mutex, std::int64_t nanoseconds);
   virtual int LockMutex(pthread_mutex_t* mutex, std::int64_t nanoseconds);
+  // WaitCondition by the wall clock, through the function that a television's process provides for it; a
+  // plain timed wait elsewhere.
+  virtual int WaitConditionByWallClock(pthread_cond_t* condition, pthread_mutex_t* mutex,
+                                       std::int64_t nanoseconds);
 
   // Starts a process; answers its id, or -1 with errno. Costs the same however large the caller is. The
   // caller's thread waits until the child executes the program or ends with `failureStatus`.
@@ -78,6 +82,9 @@ class Platform {
   virtual int Access(const char* path, int mode);
   virtual int MakeDirectory(const char* path, mode_t mode);
   virtual int Unlink(const char* path);
+  // Fills in the names of a folder's entries in alphabetical order, "." and ".." included. False, without
+  // names, when the folder can't be read.
+  virtual bool ListDirectory(const char* path, std::vector<std::string>& names);
   // Takes the write lock over the whole file without waiting; -1 with errno when another process has it.
   // It ends with the descriptor.
   virtual int LockFile(int descriptor);

@@ -28,6 +28,7 @@ using zelto::HostControl;
 std::atomic<CZeltoManager*> CZeltoManager::s_instance{nullptr};
 std::atomic<bool> CZeltoManager::s_created{false};
 std::atomic<CZeltoManagerImp*> CZeltoManager::s_imp{nullptr};
+zelto::HostDataGate CZeltoManager::s_dataGate;
 std::atomic<bool> CZeltoManager::s_serviceEnded{false};
 std::atomic<bool> CZeltoManager::s_widgetStarted{false};
 
@@ -185,12 +186,14 @@ CZeltoManagerImp* CZeltoManager::CreateZeltoManagerImp() {
   if (imp != nullptr || s_serviceEnded) return imp;
   imp = CZeltoImp::CreateZeltoManagerImp();
   s_imp.store(imp, std::memory_order_release);
+  s_dataGate.Open(imp);
   return imp;
 }
 
 void CZeltoManager::DeleteZeltoManagerImp() {
   zelhost::ServiceHostLock lock("engine_destroy");
   s_serviceEnded = true;
+  s_dataGate.Close();
   // It stays reachable meanwhile: what it takes down still asks it.
   delete s_imp.load(std::memory_order_relaxed);
   s_imp.store(nullptr, std::memory_order_release);

@@ -6,6 +6,7 @@
 
 #include "Common/EventThread.h"
 #include "Common/EventTypes.h"
+#include "Common/HostDataGate.h"
 #include "Common/IMoIPEngine.h"
 #include "Common/ZeltoEvent.h"
 #include "Common/ZeltoManagerImp.h"
@@ -166,6 +167,7 @@ class CZeltoManager final : public IMoIPEngine, public EngineEventTypes {
   static std::atomic<CZeltoManager*> s_instance;
   static std::atomic<bool> s_created;  // there is or was an engine
   static std::atomic<CZeltoManagerImp*> s_imp;
+  static zelto::HostDataGate s_dataGate;    // open while there is a service host
   static std::atomic<bool> s_serviceEnded;  // no service host may be created any more
   static std::atomic<bool> s_widgetStarted;
 };

@@ -28,7 +28,7 @@ void CZeltoManager::RegisterEventCallback(MoIPEventCallback callback, void* user
 
 void CZeltoManager::OnData(const CAVData* data) noexcept {
   if (data == nullptr || (data->data == nullptr && data->size != 0)) return;
-  Guard("OnData", [data] { Ask(&CZeltoManagerImp::OnData, data); });
+  s_dataGate.Pass(data);
 }
 
 void CZeltoManager::RegisterDataCallback(MoIPDataCallback callback, void* user) noexcept {

@@ -12,6 +12,10 @@ inline constexpr char kSnapshotFolder[] = "/mtd_rwcommon/moip/engines/Zelto/snap
 inline constexpr char kAvatarFolder[] = "/mtd_rwcommon/moip/engines/Zelto/avatar";
 inline constexpr char kProtocolSocket[] = "/dtv/socket";
 inline constexpr char kChannelKeyFile[] = "/tmp/shmipc2_conn";
+inline constexpr char kWidgetFolder[] = "/mtd_down/widgets/normal/100000000042";
+inline constexpr char kWidgetImageFolder[] = "/mtd_down/widgets/normal/100000000042_img";
+inline constexpr char kBackupFolder[] = "/mtd_down/moip/engines/Zelto";
+inline constexpr char kBackupAccountFolder[] = "/mtd_down/moip/engines/Zelto/.Zelto";
 inline constexpr char kProfilePictureCopy[] = "/mtd_rwcommon/moip/profile_temp.jpg";
 
 }  // namespace zelhost

@@ -1,155 +1,260 @@
+// Placing, answering and ending the call.
 #include "zelhost/ZelhostCallManager.h"
 
-#include "Common/CallManager.h"
 #include "Common/Log.h"
 #include "Common/ZeltoManager.h"
+#include "zelhost/Television.h"
+#include "zelhost/ZelhostAccountManager.h"
+#include "zelhost/ZelhostIPCManager.h"
+#include "zelhost/ZelhostLocalSetting.h"
+#include "zelhost/ZelhostZeltoManager.h"
+#include "zelhost/apiwrapper/client/CCall.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
+
+using zelhost::ServiceHostLock;
+using zelhost::Tell;
 
 namespace {
 
-// clang-format off
-constexpr CZeltoManager::EVENT_TYPE kHandledEvents[] = {
-    CZeltoManager::CALLMEMBER_CALL_FAILED,        CZeltoManager::CALLMEMBER_INPROGRESS,
-    CZeltoManager::CALLMEMBER_STATUS_9,           CZeltoManager::CALLMEMBER_STATUS_10,
-    CZeltoManager::CONFERENCE_CALL_ENDED,         CZeltoManager::CALL_ENDED,
-    CZeltoManager::CALL_ENDED_OTHER,              CZeltoManager::CALL_ACTIVE_MEMBERS_ONE,
-    CZeltoManager::CALL_DURATION,                 CZeltoManager::VIDEO_STATUS_1,
-    CZeltoManager::VIDEO_STATUS_2,                CZeltoManager::VIDEO_STATUS_3,
-    CZeltoManager::VIDEO_STATUS_4,                CZeltoManager::VIDEO_STATUS_5,
-    CZeltoManager::VIDEO_STATUS_6,                CZeltoManager::VIDEO_STATUS_7,
-    CZeltoManager::INCOMING_CALL,                 CZeltoManager::INCOMING_CONFERENCE_CALL,
-    CZeltoManager::CALLMEMBER_STATUS_6,           CZeltoManager::CALLMEMBER_MYVIDEO_AVAILABLE,
-    CZeltoManager::CALLMEMBER_VIDEO_PROPERTY,     CZeltoManager::CALLMEMBER_PROPERTY15,
-    CZeltoManager::CALLMEMBER_STATUS_12,          CZeltoManager::CALLMEMBER_REFUSE_RECEIVE_VIDEO,
-    CZeltoManager::VOICEMAIL_STATUS_4,            CZeltoManager::CALLMEMBER_PROPERTY37,
-    CZeltoManager::VOICEMAIL_STATUS_5,            CZeltoManager::VOICEMAIL_STATUS_6,
-    CZeltoManager::VOICEMAIL_STATUS_3,            CZeltoManager::VOICEMAIL_STATUS_13,
-    CZeltoManager::VOICEMAIL_STATUS_7,            CZeltoManager::CALLMEMBER_STATUS_17,
-    CZeltoManager::CALLMEMBER_STATUS_18,          CZeltoManager::CALLMEMBER_STATUS_20,
-    CZeltoManager::CALLMEMBER_STATUS_21,          CZeltoManager::CALLMEMBER_STATUS_22,
-};
-// clang-format on
-static_assert(sizeof kHandledEvents / sizeof kHandledEvents[0] == 36, "the call facade reacts to 36 events");
+constexpr int kSignedIn = 2;                      // login state
+constexpr char kOverProgramme[] = "TVModeAudio";  // how a widget starts that leaves the programme visible
+
+CZelhostZeltoManager& Widget() { return *CZelhostZeltoManager::GetInstance(); }
+
+bool IsSignedIn() {
+  return g_lpZelto != nullptr && g_lpZelto->m_lpActiveAccount != nullptr &&
+         CZelhostAccountManager::GetInstance()->GetLoginState() == kSignedIn;
+}
+
+int CallTypeOf(int asked) { return asked == kVideoCall ? kVideoCall : kVoiceCall; }
+
+void NotifyRingStopped() {
+  CZeltoManager::NotifyHardwiredEvent(CZeltoManager::PUBLIC_RING_STOPPED, nullptr, nullptr);
+}
 
 }  // namespace
 
 CCall* CZelhostCallManager::m_pCall = nullptr;
 
-CZelhostCallManager::~CZelhostCallManager() { m_instance.Forget(); }
+CZelhostCallManager::~CZelhostCallManager() {
+  ServiceHostLock lock("~CZelhostCallManager");
+  m_pCall = nullptr;
+  m_instance.Forget();
+}
 
-void CZelhostCallManager::Init() {
-  for (const auto type : kHandledEvents) {
-    CZeltoManager::SetEventHandler(type, CCallManager::GetInstance());
+bool CZelhostCallManager::HasCallToWorkWith(const char* without) {
+  if (g_lpZelto == nullptr) return false;
+  if (m_pCall == nullptr && without != nullptr) ZELTO_DEBUG("%s", without);
+  return m_pCall != nullptr;
+}
+
+// While a call is being cleared away another one would be cleared away with it.
+bool CZelhostCallManager::IsTaken() {
+  if (m_pCall == nullptr && !m_state.ending) return false;
+  ZELTO_FATAL("Already there is a call[%p]\n", static_cast<void*>(m_pCall));
+  return true;
+}
+
+bool CZelhostCallManager::NoteCallEnding(const CCall* call) {
+  ServiceHostLock lock("NoteCallEnding");
+  if (m_pCall != nullptr && m_pCall != call) return false;
+  m_state.ending = true;
+  return true;
+}
+
+// A call that only rings here has changed nothing yet.
+void CZelhostCallManager::NoteCallDropped(const CCall* call) {
+  ServiceHostLock lock("NoteCallDropped");
+  const bool leavesTraces = m_state.type != kNoCallType || m_state.inProgress || m_state.hostCallStarted;
+  if (m_pCall != call || m_state.ending || !leavesTraces) return;
+  m_state.ending = true;
+  CZeltoManager::SendEvent(CZeltoManager::CALL_ENDED, 0);
+}
+
+bool CZelhostCallManager::CreateCall(const char* identity, int type) {
+  ServiceHostLock lock("CreateCall");
+  if (!IsSignedIn() || IsTaken()) return false;
+  m_state.onHold = false;
+  m_state.type = CallTypeOf(type);
+  UnblockIncomingCall(false);
+
+  m_pCall = dynamic_cast<CCall*>(g_lpZelto->CreateCall());
+  ZELTO_DEBUG("m_pCall = %p is created\n", static_cast<void*>(m_pCall));
+  if (m_pCall == nullptr) ZELTO_DEBUG("fail to CreateCall");
+  if (m_pCall == nullptr || !m_pCall->Ring(identity)) {
+    ZELTO_DEBUG("fail to Ring %s\n", identity != nullptr ? identity : "");
+    return HangUpHalfMadeCall();
+  }
+  ZELTO_DEBUG("m_pCall = %p ringing\n", static_cast<void*>(m_pCall));
+  ChooseVideo(m_state.type);
+  if (m_state.type == kVideoCall) ShowCallingPreview();
+  return true;
+}
+
+bool CZelhostCallManager::HangUpHalfMadeCall() {
+  if (m_pCall != nullptr) m_pCall->End(CallMember::HANG_UP);
+  m_pCall = nullptr;
+  m_state.type = kNoCallType;
+  m_state.leavingVoicemail = false;
+  return false;
+}
+
+void CZelhostCallManager::ChooseVideo(int type) {
+  m_state.sendingVideo = type == kVideoCall;
+  if (!m_state.sendingVideo) {
+    m_pCall->StopVideoSendToMember(0);
+  } else if (MayStartSending()) {
+    m_pCall->StartVideoSendToMember(0);
   }
 }
-bool CZelhostCallManager::OnEvent(const CZeltoEvent*) { return true; }
-bool CZelhostCallManager::AfterEvent(const CZeltoEvent*) { return true; }
 
-void CZelhostCallManager::SetCallMembers(CCall* call) {
-  zelhost::ServiceHostLock lock("SetCallMembers");
-  m_pCall = call;
+void CZelhostCallManager::ShowCallingPreview() {
+  const int widget = Widget().GetZeltoWidgetMode();
+  if (m_state.previewShown || !Widget().WidgetHandleIncomingCall() || widget == kWidgetBesideProgrammeAlso) {
+    return;
+  }
+  if (widget == kWidgetBesideProgramme) Tell("SetPIPSourceMedia");
+  const VideoRect& place = m_layout.callingPreview;
+  ZELTO_DEBUG("StartPreview: %d %d %d %d\n", place.x, place.y, place.width, place.height);
+  ShowPreviewAt(place);
 }
 
-bool CZelhostCallManager::BlockIncomingCall() {
-  zelhost::ServiceHostLock lock("BlockIncomingCall");
+bool CZelhostCallManager::LeaveVoicemail(const char* identity) {
+  ServiceHostLock lock("LeaveVoicemail");
   if (g_lpZelto == nullptr) return false;
-  m_blockingIncomingCall = true;
+  if (IsTaken()) return false;
+  m_pCall = dynamic_cast<CCall*>(g_lpZelto->CreateCall());
+  if (m_pCall == nullptr) {
+    ZELTO_DEBUG("fail to CreateCall");
+    return HangUpHalfMadeCall();
+  }
+  m_state.type = kVoiceCall;
+  m_state.leavingVoicemail = true;
+  return m_pCall->LeaveVoicemail(identity) || HangUpHalfMadeCall();
+}
+
+bool CZelhostCallManager::Answer(int mode) {
+  ServiceHostLock lock("Answer");
+  if (g_lpZelto == nullptr) return false;
+  NotifyRingStopped();
+  m_forwardAlarm.Stop();
+  if (m_pCall == nullptr) {
+    ZELTO_FATAL("answer but call was already disconnected by call member");
+  } else if (Widget().GetZeltoWidgetState()) {
+    AnswerNow(CallTypeOf(mode));
+  } else {
+    AnswerOnceTheWidgetIsThere(CallTypeOf(mode));
+  }
+  return true;
+}
+bool CZelhostCallManager::AnswerWithVideo() { return Answer(kVideoCall); }
+bool CZelhostCallManager::AnswerWithVoice() { return Answer(kVoiceCall); }
+
+void CZelhostCallManager::AnswerNow(int type) {
+  m_state.pendingAnswer = kNoPendingAnswer;
+  ChooseVideo(type);
+  m_state.type = type;
+  m_pCall->Answer();
+}
+
+void CZelhostCallManager::AnswerOnceTheWidgetIsThere(int type) {
+  ZELTO_DEBUG("answering will be done after loading widget");
+  m_state.pendingAnswer = type;
+  Widget().SetWidgetActivatedByAnswering(true);
+  CZeltoManager::SendEvent(CZeltoManager::WIDGET_LAUNCH, Widget().GetZeltoWidgetState() ? 1 : 0);
+  CZeltoManager::SetRunWidgetParam("");
+  const char* parameter = "";
+  if (!zelhost::HostSaysYes("IsUserWatchingTV")) {
+    ZELTO_DEBUG("Normal Mode Call ");
+  } else if (type == kVideoCall) {
+    ZELTO_DEBUG("TV Mode Video Call ");
+    parameter = kOverProgramme;
+  } else if (IsConference()) {
+    ZELTO_DEBUG("TV Mode but Conference call --> Normal Mode Call ");
+  } else {
+    ZELTO_DEBUG("TV Mode Audio Call ");
+    parameter = kOverProgramme;
+  }
+  Tell("StartWidgetWithParam", parameter, "1");
+  CZeltoManager::SendEvent(CZeltoManager::CONNECTING_WND_SHOWN, 0);
+}
+
+bool CZelhostCallManager::EndRingingCall(CallMember::ENDACTION action) {
+  if (!HasCallToWorkWith()) return false;
+  NotifyRingStopped();
+  m_pCall->End(action);
   return true;
 }
 
-bool CZelhostCallManager::UnblockIncomingCall(bool keep) {
-  zelhost::ServiceHostLock lock("UnblockIncomingCall");
-  if (g_lpZelto == nullptr) return false;
-  if (!keep) m_blockingIncomingCall = false;
+bool CZelhostCallManager::Reject() {
+  ServiceHostLock lock("Reject");
+  if (!HasCallToWorkWith()) return false;
+  const bool toVoicemail = CZelhostLocalSetting::GetIntValue(kSettingVoicemailForReject) != 0;
+  return EndRingingCall(toVoicemail ? CallMember::REDIRECT_TO_VOICEMAIL : CallMember::HANG_UP);
+}
+
+bool CZelhostCallManager::Forward() {
+  ServiceHostLock lock("Forward");
+  return EndRingingCall(CallMember::FORWARD);
+}
+
+bool CZelhostCallManager::RedirectVoiceMail() {
+  ServiceHostLock lock("RedirectVoiceMail");
+  return EndRingingCall(CallMember::REDIRECT_TO_VOICEMAIL);
+}
+
+bool CZelhostCallManager::CancelVoicemail() {
+  ServiceHostLock lock("CancelVoicemail");
+  if (!HasCallToWorkWith("no call")) return false;
+  m_pCall->End(CallMember::CANCEL_VOICEMAIL);
   return true;
 }
 
-void CZelhostCallManager::Place(const char* operation, VideoRect VideoLayout::*rect, const VideoRect& place) {
-  zelhost::ServiceHostLock lock("Place");
-  ZELTO_DEBUG("%s(%d,%d,%d,%d)", operation, place.x, place.y, place.width, place.height);
-  m_layout.*rect = place;
+bool CZelhostCallManager::CallEnd(bool force) {
+  ServiceHostLock lock("CallEnd");
+  if (!HasCallToWorkWith("no call")) return false;
+  ZELTO_DEBUG("CZelhostCallManager::CallEnd(%d)", force);
+  m_state.onHold = false;
+  if (force) {
+    ZELTO_DEBUG(">>>>   Call end forced  <<<<< ");
+    CZelhostIPCManager::GetInstance()->StopExchangeData(kExchangeAll);
+    StopPreviewIfShown();
+    TellHostToStopCall();
+    m_state.hostCallStarted = false;
+  }
+  m_pCall->End(CallMember::HANG_UP);
+  m_state.tvSourceMode = false;
+  return true;
 }
-void CZelhostCallManager::SetTvRecvRect(int x, int y, int width, int height) {
-  Place("SetTvRecvRect", &VideoLayout::tvReceive, {x, y, width, height});
-}
-void CZelhostCallManager::SetTvPreviewRect(int x, int y, int width, int height) {
-  Place("SetTvPreviewRect", &VideoLayout::tvPreview, {x, y, width, height});
-}
-void CZelhostCallManager::SetTvViewRect(int x, int y, int width, int height) {
-  Place("SetTvViewRect", &VideoLayout::tvView, {x, y, width, height});
-}
-void CZelhostCallManager::SetNormalRecvRect(int x, int y, int width, int height) {
-  Place("SetNormalRecvRect", &VideoLayout::normalReceive, {x, y, width, height});
-}
-void CZelhostCallManager::SetNormalPreviewRect(int x, int y, int width, int height) {
-  Place("SetNormalPreviewRect", &VideoLayout::normalPreview, {x, y, width, height});
-}
-void CZelhostCallManager::SetCallingPreviewRect(int x, int y, int width, int height) {
-  Place("SetCallingPreviewRect", &VideoLayout::callingPreview, {x, y, width, height});
-}
-void CZelhostCallManager::GetTvViewRect(int& x, int& y, int& width, int& height) {
-  ZELTO_DEBUG("GetTvViewRect");
-  zelhost::ServiceHostLock lock("GetTvViewRect");
-  x = m_layout.tvView.x;
-  y = m_layout.tvView.y;
-  width = m_layout.tvView.width;
-  height = m_layout.tvView.height;
-}
-void CZelhostCallManager::ChangeSourceMode(const char*) {}
-void CZelhostCallManager::StartPreview() {}
 
-// Without a call there is nothing to do and nothing to tell.
-bool CZelhostCallManager::CreateCall(const char*, int) { return false; }
-bool CZelhostCallManager::CallEnd(bool) { return false; }
-const char* CZelhostCallManager::GetCallInfo() { return nullptr; }
-bool CZelhostCallManager::IsCallInProgress() { return false; }
-int CZelhostCallManager::GetNumOfCallMembers() { return 0; }
-const char* CZelhostCallManager::GetCallMemberInfo(int, int) { return nullptr; }
-const char* CZelhostCallManager::GetCallMemberInfo(const char*, int) { return nullptr; }
-bool CZelhostCallManager::SendDTMF(int) { return false; }
+bool CZelhostCallManager::Hold() {
+  ServiceHostLock lock("Hold");
+  if (!HasCallToWorkWith() || !m_pCall->CanHold()) return false;
+  m_pCall->Hold(true);
+  return true;
+}
 
-bool CZelhostCallManager::StartSendVideo() { return false; }
-bool CZelhostCallManager::StopSendVideo() { return false; }
-bool CZelhostCallManager::StartRecvVideo() { return false; }
-bool CZelhostCallManager::StopRecvVideo() { return false; }
+bool CZelhostCallManager::Resume() {
+  ServiceHostLock lock("Resume");
+  if (!HasCallToWorkWith() || !m_pCall->CanResume()) return false;
+  m_pCall->Hold(false);
+  return true;
+}
 
-bool CZelhostCallManager::Hold() { return false; }
-bool CZelhostCallManager::Resume() { return false; }
-bool CZelhostCallManager::Answer(int) { return false; }
-bool CZelhostCallManager::AnswerWithVideo() { return false; }
-bool CZelhostCallManager::AnswerWithVoice() { return false; }
-bool CZelhostCallManager::Reject() { return false; }
-bool CZelhostCallManager::Forward() { return false; }
-bool CZelhostCallManager::RedirectVoiceMail() { return false; }
-bool CZelhostCallManager::IsConference() { return false; }
+bool CZelhostCallManager::Mute(bool mute) {
+  ServiceHostLock lock("Mute");
+  if (!HasCallToWorkWith()) return false;
+  m_pCall->Mute(mute);
+  return true;
+}
 
-const char* CZelhostCallManager::GetCallMemberIdentity(int) { return nullptr; }
-const char* CZelhostCallManager::GetCallMemberDisplayName(int) { return nullptr; }
-const char* CZelhostCallManager::GetCallMemberAvatarPath(int) { return nullptr; }
-const char* CZelhostCallManager::GetCallMemberStatus(int) { return nullptr; }
-const char* CZelhostCallManager::GetCallMemberOnlineState(int) { return nullptr; }
-const char* CZelhostCallManager::GetCallMemberName(int) { return nullptr; }
+bool CZelhostCallManager::SendDTMF(int tone) {
+  ServiceHostLock lock("SendDTMF");
+  if (!HasCallToWorkWith()) return false;
+  m_pCall->PlayAndSendDTMF(static_cast<CallMember::DTMF>(tone));
+  return true;
+}
 
-bool CZelhostCallManager::IsPSTNCall() { return false; }
-int CZelhostCallManager::GetCallType() { return -1; }
-bool CZelhostCallManager::Mute(bool) { return false; }
-const char* CZelhostCallManager::NormalizeIdentity(const char*) { return nullptr; }
-bool CZelhostCallManager::IsEmergencyCall(const char*) { return false; }
-bool CZelhostCallManager::IsSendingVideo() { return false; }
-bool CZelhostCallManager::IsReceivingVideo() { return false; }
-bool CZelhostCallManager::LeaveVoicemail(const char*) { return false; }
-bool CZelhostCallManager::CancelVoicemail() { return false; }
-bool CZelhostCallManager::IsInCall() { return false; }
-bool CZelhostCallManager::IsInCalling() { return false; }
-bool CZelhostCallManager::IsCallMemberVideoAvailable() { return false; }
 // Ringing is the television's work; it hears of it as public events.
 bool CZelhostCallManager::SetRingVolume(unsigned char) { return true; }
 bool CZelhostCallManager::StopRingPlayer() { return true; }
-
-void CZelhostCallManager::UpdateSpeakingCallMember(void*, int) {}
-void CZelhostCallManager::UpdateCallMemberProperty(void*, int, const ZEString&) {}
-
-bool CZelhostCallManager::IsInHold() { return false; }
-bool CZelhostCallManager::IsMissed() { return false; }
-void CZelhostCallManager::SetMissed(bool) {}
-void CZelhostCallManager::AddToMissedCallList() {}

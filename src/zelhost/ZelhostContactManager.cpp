@@ -1,8 +1,90 @@
 #include "zelhost/ZelhostContactManager.h"
 
+#include <iterator>
+#include <utility>
+
 #include "Common/ContactManager.h"
+#include "Common/Log.h"
 #include "Common/ZeltoEvent.h"
 #include "Common/ZeltoManager.h"
+#include "apiwrapper/ZEReply.h"
+#include "zelhost/ContactPicture.h"
+#include "zelhost/ServiceHostMutex.h"
+#include "zelhost/ZelhostAccountManager.h"
+#include "zelhost/apiwrapper/client/CZelto.h"
+
+using zelhost::ServiceHostLock;
+
+namespace {
+
+// Entries of these kinds start with a name and a fixed availability; all others are fetched.
+struct NewContact {
+  int kind;
+  int name;  // a property
+  const char* availability;
+};
+
+// clang-format off
+constexpr NewContact kNewContacts[] = {
+    {CZelhostContactManager::kAuthorizationRequest, Contact::P_IDENTITY,     "1"},
+    {CZelhostContactManager::kPhoneNumber,          Contact::P_PHONE_NUMBER, "5"},
+};
+// clang-format on
+
+const NewContact* FindNewContact(int kind) {
+  for (const NewContact& row : kNewContacts) {
+    if (row.kind == kind) return &row;
+  }
+  return nullptr;
+}
+
+template <class Properties>
+ZEIntList ListOf(const Properties& properties) {
+  ZEIntList list;
+  for (const int property : properties) list.append(property);
+  return list;
+}
+
+ZEString KeyOf(const ZEIntDict& values) {
+  const ZEString identity = values.find(Contact::P_IDENTITY);
+  return identity.isEmpty() ? values.find(Contact::P_PHONE_NUMBER) : identity;
+}
+
+int CategoryOf(const ZEIntDict& values) {
+  return CContactInfo::SetSortCategory(values.find(Contact::P_AVAILABILITY).toInt());
+}
+
+// Nobody is shown without a name.
+void FillDisplayName(ZEIntDict& values) {
+  if (!values.find(Contact::P_DISPLAY_NAME).isEmpty()) return;
+  const ZEString key = KeyOf(values);
+  ZELTO_DEBUG(values.find(Contact::P_IDENTITY).isEmpty() ? "Display/zelto name is empty, using pstn name %s\n"
+                                                         : "Display name is empty, using zelto name %s\n",
+              static_cast<const char*>(key));
+  values.insert(Contact::P_DISPLAY_NAME, key);
+}
+
+// The picture itself gives way to the location of its file.
+void FileAvatar(ZEIntDict& values, const char* complaint) {
+  const ZEString picture = values.find(Contact::P_AVATAR);
+  const ZEString key = KeyOf(values);
+  if (picture.isEmpty()) {
+    ZELTO_DEBUG(complaint, static_cast<const char*>(key));
+  } else {
+    values.insert(Contact::P_AVATAR, zelhost::SaveContactPicture(key, picture));
+  }
+}
+
+// An empty picture leaves the one that is known in place.
+template <class Store>
+void StoreEach(const ZEIntList& properties, const ZEIntDict& values, Store store) {
+  for (unsigned i = 0; i < properties.size(); ++i) {
+    const ZEString value = values.find(properties[i]);
+    if (properties[i] != Contact::P_AVATAR || !value.isEmpty()) store(properties[i], value);
+  }
+}
+
+}  // namespace
 
 CZelhostContactManager::~CZelhostContactManager() { m_instance.Forget(); }
 
@@ -13,62 +95,111 @@ void CZelhostContactManager::Init() {
   }
 }
 
+// A change of groups concerns the widget only when its user asked for it.
 bool CZelhostContactManager::OnEvent(const CZeltoEvent* event) {
-  // A change of groups concerns the widget only when it was asked for, and nothing asks yet.
-  return event->type != CZeltoManager::CONTACT_GROUP_CHANGED;
+  ServiceHostLock lock("contact event");
+  ZELTO_DEBUG("event type = %d, param=%d\n", event->type, event->param);
+  if (event->type != CZeltoManager::CONTACT_GROUP_CHANGED) return true;
+  if (!std::exchange(m_bUnblocking, false)) return false;
+  ZELTO_DEBUG("ContactGroup issued unblocked event");
+  return true;
 }
 
-bool CZelhostContactManager::GetContactAllInfo() { return false; }
-void CZelhostContactManager::ClearContactList() {}
-
-int CZelhostContactManager::GetNumOfContacts() { return 0; }
-int CZelhostContactManager::GetNumOfContactsInCategory(int) { return 0; }
-const char* CZelhostContactManager::GetContactInfo(int, int) { return nullptr; }
-const char* CZelhostContactManager::GetContactInfo(const char*, int) { return nullptr; }
-const char* CZelhostContactManager::GetContactInfo(const char*, int, int) { return nullptr; }
-
-const char* CZelhostContactManager::GetContactListWithoutCallMember(int, int) { return nullptr; }
-const char* CZelhostContactManager::GetContactListWithoutUnauthorizedContacts(int, int) { return nullptr; }
-const char* CZelhostContactManager::GetContactListWithoutCallMemberAndUnauthorizedContacts(int, int) {
-  return nullptr;
-}
-int CZelhostContactManager::GetNumOfContactsWithoutUnauthorizedContacts() { return 0; }
-
-bool CZelhostContactManager::Remove(const char*) { return false; }
-bool CZelhostContactManager::Block(const char*, bool) { return false; }
-bool CZelhostContactManager::Unblock(const char*) { return false; }
-bool CZelhostContactManager::IsBlocked(const char*) { return false; }
-const char* CZelhostContactManager::GetBlockedContact(int) { return nullptr; }
-const char* CZelhostContactManager::GetBlockedContactList() { return nullptr; }
-bool CZelhostContactManager::AddContact(const char*, const char*) { return false; }
-bool CZelhostContactManager::AddZeltoOutContact(const char*, const char*) { return false; }
-bool CZelhostContactManager::Authorize(const char*, bool, bool) { return false; }
-
-int CZelhostContactManager::GetIndexOfContact(const char*) { return -1; }
-bool CZelhostContactManager::IsMyBuddy(const char*) { return false; }
-
-bool CZelhostContactManager::SearchNewContact(const char*) { return false; }
-bool CZelhostContactManager::SearchContactProfile(const char*) { return false; }
-const char* CZelhostContactManager::GetSearchedContactList() { return nullptr; }
-const char* CZelhostContactManager::GetProfileInfo(const char*) { return nullptr; }
-
-bool CZelhostContactManager::Rename(const char*, const char*) { return false; }
-bool CZelhostContactManager::SetAssignedPhoneNumber(const char*, unsigned int, const char*, const char*) {
-  return false;
-}
-bool CZelhostContactManager::HasCapability(const char*, int, bool) { return false; }
-const char* CZelhostContactManager::GetOnlinedContactName() { return nullptr; }
-const char* CZelhostContactManager::GetStateChangedContact() { return nullptr; }
-int CZelhostContactManager::GetTypeOfIdentity(const char*) {
-  constexpr int kUnknownType = 1;
-  return kUnknownType;
+bool CZelhostContactManager::IsContactInfoAvailable() {
+  if (g_lpZelto == nullptr || !CZeltoManager::IsZeltoReady()) return false;
+  constexpr int kSigningIn = 1;
+  constexpr int kSignedIn = 2;
+  const int state = CZelhostAccountManager::GetInstance()->GetLoginState();
+  return state == kSigningIn || state == kSignedIn;
 }
 
-const char* CZelhostContactManager::GetOnlineContacts() { return nullptr; }
-bool CZelhostContactManager::SetCallee(const char*) { return false; }
-const char* CZelhostContactManager::GetCallee() { return nullptr; }
+bool CZelhostContactManager::GetContactAllInfo() {
+  ServiceHostLock lock("GetContactAllInfo");
+  if (!IsContactInfoAvailable()) return false;
+  const bool waiting = GetContactListInGroup(ContactGroup::CONTACTS_WAITING_MY_AUTHORIZATION);
+  const bool others = GetContactListInGroup(ContactGroup::ALL_BUDDIES);
+  Sort();
+  return waiting && others;
+}
 
-const char* CZelhostContactManager::FindContactWithEmail(const char*) { return nullptr; }
-const char* CZelhostContactManager::GetContactImage(const char*) { return nullptr; }
-int CZelhostContactManager::GetContactStatus(const char*) { return -1; }
-const char* CZelhostContactManager::GetZeltoNameWithDisplayName(const char*) { return nullptr; }
+bool CZelhostContactManager::GetContactListInGroup(ContactGroup::TYPE type) {
+  ServiceHostLock lock("GetContactListInGroup");
+  if (!IsContactInfoAvailable()) {
+    ZELTO_DEBUG("%s: contact info not available now \n", "GetContactListInGroup");
+    return false;
+  }
+  ContactGroup* group = g_lpZelto->GetHardwiredContactGroup(type);
+  if (group == nullptr) {
+    ZELTO_DEBUG("%s: fail to get hardwired group %d\n", "GetContactListInGroup", type);
+    return false;
+  }
+  const ZEPtrVector contacts = group->GetContacts();
+  ZELTO_DEBUG("%s: hardwired group[%d] has %d contacts\n", "GetContactListInGroup", type,
+              static_cast<int>(contacts.size()));
+  g_lpZelto->GetMultipleObjectsProps(contacts, ListOf(zelhost::kBasicContactProperties));
+  for (unsigned i = 0; i < contacts.size(); ++i) {
+    auto* contact = zeObjectAt<Contact>(contacts, i);
+    if (contact != nullptr) TakeContact(contact);
+  }
+  return true;
+}
+
+// The proxy's copy of the values, with the picture in it, is not kept: thousands of them would fill the
+// memory.
+void CZelhostContactManager::TakeContact(Contact* contact) {
+  static const ZEIntList properties = ListOf(zelhost::kBasicContactProperties);
+  ZEIntDict values = std::exchange(contact->propCache, ZEIntDict());
+  const ZEString key = KeyOf(values);
+  if (key.isEmpty()) {
+    ZELTO_DEBUG("SH: ERROR!!!! EMPTY CONTACT RECEIVED!!!!!!!!!");
+    return;
+  }
+  FillDisplayName(values);
+  FileAvatar(values, "contact[%s] avatar is empty\n");
+  if (const CContactInfo* known = m_ContactList.Find(key.view())) {
+    StoreEach(properties, values,
+              [&](int property, const ZEString& value) { m_ContactList.Set(known, property, value); });
+    m_ContactList.SetCategory(known, CategoryOf(values));
+    return;
+  }
+  auto entry = std::make_unique<CContactInfo>();
+  StoreEach(properties, values, [&](int property, const ZEString& value) { entry->Set(property, value); });
+  entry->SetCategory(CategoryOf(values));
+  m_ContactList.Append(std::move(entry));
+}
+
+void CZelhostContactManager::AddNewContactToList(Contact* contact, int kind) {
+  ServiceHostLock lock("AddNewContactToList");
+  if (contact == nullptr) return;
+  const NewContact* fixed = FindNewContact(kind);
+  ZEIntList properties = fixed == nullptr ? ListOf(zelhost::kBasicContactProperties)
+                                          : ListOf(std::array{fixed->name, int{Contact::P_DISPLAY_NAME}});
+  ZEIntDict values = contact->GetProps(properties);
+  if (KeyOf(values).isEmpty()) {
+    ZELTO_DEBUG("SH: ERROR!!!! EMPTY CONTACT RECEIVED!!!!!!!!!");
+    return;
+  }
+  FillDisplayName(values);
+  if (fixed == nullptr) {
+    FileAvatar(values, "%s avatar is null\n");
+  } else {
+    properties.append(Contact::P_AVAILABILITY);
+    values.insert(Contact::P_AVAILABILITY, fixed->availability);
+  }
+  auto entry = std::make_unique<CContactInfo>();
+  StoreEach(properties, values, [&](int property, const ZEString& value) { entry->Set(property, value); });
+  entry->SetCategory(CategoryOf(values));
+  m_ContactList.Insert(std::move(entry));
+  CZeltoManager::SendEvent(CZeltoManager::CONTACT_UPDATED, 0);
+}
+
+void CZelhostContactManager::Sort() {
+  ServiceHostLock lock("Sort");
+  ZELTO_INFO("sorting..");
+  m_ContactList.Sort();
+}
+
+void CZelhostContactManager::ClearContactList() {
+  ServiceHostLock lock("ClearContactList");
+  m_ContactList.Clear();
+}

@@ -1,21 +1,50 @@
 #pragma once
 
+#include <string>
+#include <string_view>
+#include <vector>
+
 #include "Common/ContactManagerImp.h"
+#include "apiwrapper/ContactGroup.h"
+#include "zelhost/ContactList.h"
 #include "zelhost/ManagerInstance.h"
 
-// The contact list of the signed-in account, as the engine keeps it for the widget.
-// It keeps no list yet: questions are answered as for an account without contacts, and operations are
-// refused.
-// Threads: any.
+// The contact list of the signed-in account, as the engine keeps it for the widget: built from two of the
+// runtime's groups, ordered by category and name, kept current by what the runtime reports. Questions are
+// answered without asking the runtime, except for the first one about a less common property. Operations that
+// change the runtime's list are not there yet and are refused.
+// Without a ready runtime and somebody signed in, questions are answered null, 0, false or -1.
+// Texts that are answered stay valid until the next question of the same kind: about single values, about
+// pictures, or about records.
+// Threads: any; every operation takes the service-host mutex.
 class CZelhostContactManager : public CContactManagerImp {
  public:
   static CZelhostContactManager* GetInstance() { return m_instance.Get(); }
   ~CZelhostContactManager() override;
 
-  // Builds the list from the runtime's contact groups; false when it could not.
+  // How AddNewContactToList makes an entry.
+  enum NEW_CONTACT : int { kAuthorizationRequest = 1, kPhoneNumber = 3, kContact = 4 };
+
+  // Builds the list from the runtime's contact groups, or brings it up to date; false when it could not.
   bool GetContactAllInfo();
+  // Takes the members of one hardwired group over, unsorted; false without the group.
+  bool GetContactListInGroup(ContactGroup::TYPE type);
+  // Brings the whole list in order.
+  void Sort();
   // Empties the list; part of every sign-in and sign-out.
   void ClearContactList();
+  // Adds an entry, also when the contact has one already, and tells the widget. One without identity and
+  // phone number is skipped.
+  void AddNewContactToList(Contact* contact, int kind);
+  // Takes over a value that the runtime reported of the contact that goes by that name, and tells the widget.
+  void UpdateContactInfo(const char* name, int property, const ZEString& value, Contact* contact);
+  // Whether UpdateContactInfo does anything about that property.
+  static bool IsFollowed(int property) { return FindUpdate(property) != nullptr; }
+  // Fetches what is missing of the extra properties; the entry stays as it is when the runtime does not know
+  // its identity.
+  void GetContactInfoMore(const CContactInfo* entry);
+  // Whether the runtime is ready and somebody is signed in or signing in.
+  static bool IsContactInfoAvailable();
 
   void Init() override;
   bool OnEvent(const CZeltoEvent* event) override;
@@ -68,7 +97,53 @@ class CZelhostContactManager : public CContactManagerImp {
 
  private:
   friend class zelhost::ManagerInstance<CZelhostContactManager>;
+  // A change of one contact that the runtime reported.
+  struct Change {
+    const char* name;  // identity or phone number
+    int property;
+    const ZEString& value;
+    Contact* contact;
+    const CContactInfo* entry;  // null when the list has none
+  };
+  struct Update;
+  // Which entries a page of records leaves out.
+  struct PageFilter {
+    const char* query;
+    bool skipsCallMember;
+    bool skipsUnauthorized;
+  };
+
   CZelhostContactManager() = default;
 
+  const char* Result(std::string_view text);
+  const CContactInfo* FindEntry(const char* name) const;
+  const char* Value(const CContactInfo* entry, int property);
+  const char* Page(const PageFilter& filter, int start, int num);
+  const char* WriteRecords();
+  const CContactInfo* FindNamed(const ZEString& name) const;
+
+  void TakeContact(Contact* contact);
+
+  static const Update* FindUpdate(int property);
+  void Keep(const Change& change);
+  void OnLanguage(const Change& change);
+  void OnAvailability(const Change& change);
+  void OnDisplayName(const Change& change);
+  void OnAuthorization(const Change& change);
+  void OnAvatar(const Change& change);
+  void OnMood(const Change& change);
+
   static inline zelhost::ManagerInstance<CZelhostContactManager> m_instance;
+
+  ContactList m_ContactList;
+  bool m_bUnblocking = false;  // an unblock or authorization change of the user's is under way
+  std::string m_strRejectedContact;
+  std::string m_strOnlinedContact;
+  std::string m_strStateChangedContact;
+  std::string m_strResult;
+  std::string m_strContactImage;
+  std::string m_strRecords;
+  std::vector<const CContactInfo*> m_page;  // entries whose records are asked for
+  std::vector<ZEString> m_candidates;       // names that a viewer may say
+  ZEString m_callee;
 };

@@ -1,6 +1,5 @@
 #include "zelhost/ZelhostZeltoManager.h"
 
-#include <algorithm>
 #include <exception>
 #include <string>
 
@@ -14,8 +13,6 @@
 
 namespace {
 
-constexpr int kLoudest = 100;
-
 // The clock is read only when somebody sees it.
 void LogCall(const zelhost::CommandCall& call) {
   ZELTO_DEBUG("CZelhostZeltoManager::%s, cmd = %s(%s, %s, %s, %s)\n", "Execute", call.Name(),
@@ -26,17 +23,6 @@ void LogCall(const zelhost::CommandCall& call) {
   const std::int64_t now = zelto::System().WallClock();
   zelto::Log(zelto::LogLevel::Info, "\033[02;%dm[%d.%06d]\033[0m", kRed,
              static_cast<int>(now / kMicroseconds), static_cast<int>(now % kMicroseconds));
-}
-
-// Tells the television a volume and answers what it was told.
-int SendVolume(const char* control, int volume) {
-  const int sent = std::clamp(volume, 0, kLoudest);
-  CZeltoManager::CallCommonControl(control, std::to_string(sent).c_str());
-  return sent;
-}
-
-int AskVolume(const char* control) {
-  return zelhost::ToInt(CZeltoManager::CallCommonControl(control).c_str());
 }
 
 }  // namespace
@@ -105,14 +91,6 @@ bool CZelhostZeltoManager::IsWidgetActivatedByAnswering() { return m_widgetActiv
 
 void CZelhostZeltoManager::OnData(const CAVData* data) { CZelhostIPCManager::GetInstance()->SendData(data); }
 
-bool CZelhostZeltoManager::SetZeltoWidgetState(int state) {
-  m_widgetState = state;
-  CZeltoManager::SetWidgetStarted(false);
-  // The television's picture and sound do not follow yet, so the change is not reported as done.
-  return false;
-}
-bool CZelhostZeltoManager::GetZeltoWidgetState() { return m_widgetState > 0; }
-
 void CZelhostZeltoManager::SetLoggedInState(bool loggedIn) { m_loggedIn = loggedIn; }
 bool CZelhostZeltoManager::GetLoggedInState() { return m_loggedIn; }
 void CZelhostZeltoManager::SetOnlineState(bool online) { m_online = online; }
@@ -129,22 +107,15 @@ bool CZelhostZeltoManager::CheckShowMissedCallPopup() { return false; }
 
 bool CZelhostZeltoManager::WidgetHandleIncomingCall() { return m_widgetHandlesIncomingCall; }
 
-void CZelhostZeltoManager::SetSpeakerVolume(int volume) { SendVolume("SetSpeakerVolume", volume); }
-void CZelhostZeltoManager::SetCallMixVolume(int volume) {
-  CZelhostLocalSetting::SetIntValue(kSettingSpeakerVolume, SendVolume("SetSubMixAudioVolume", volume));
+bool CZelhostZeltoManager::StartWidegtOSDTimer(int milliseconds, int id) {
+  ZELTO_DEBUG("CZelhostZeltoManager:: %s \n", __func__);
+  return m_timers.Start(milliseconds, id);
 }
-void CZelhostZeltoManager::SetTVMixVolume(int volume) {
-  m_tvAudioMixed = true;
-  CZelhostLocalSetting::SetIntValue(kSettingTvMixRatio, SendVolume("SetMainMixAudioVolume", volume));
+bool CZelhostZeltoManager::RestartWidegtOSDTimer(int milliseconds, int id) {
+  ZELTO_DEBUG("CZelhostZeltoManager:: %s \n", __func__);
+  return m_timers.Restart(milliseconds, id);
 }
-int CZelhostZeltoManager::GetSpeakerVolume() { return AskVolume("GetSpeakerVolume"); }
-int CZelhostZeltoManager::GetCallMixVolume() {
-  return CZelhostLocalSetting::GetIntValue(kSettingSpeakerVolume);
+bool CZelhostZeltoManager::StopWidegtOSDTimer(int id) {
+  ZELTO_DEBUG("CZelhostZeltoManager:: %s \n", __func__);
+  return m_timers.Stop(id);
 }
-int CZelhostZeltoManager::GetTVMixVolume() { return AskVolume("GetMainMixAudioVolume"); }
-
-bool CZelhostZeltoManager::StartWidegtOSDTimer(int, int) { return false; }
-bool CZelhostZeltoManager::RestartWidegtOSDTimer(int, int) { return false; }
-bool CZelhostZeltoManager::StopWidegtOSDTimer(int) { return false; }
-bool CZelhostZeltoManager::BackupWidgetData() { return false; }
-bool CZelhostZeltoManager::RestoreWidgetData() { return false; }

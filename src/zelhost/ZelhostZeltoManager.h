@@ -7,7 +7,16 @@
 
 #include "Common/ZeltoManagerImp.h"
 #include "zelhost/ManagerInstance.h"
+#include "zelhost/WidgetTimers.h"
 #include "zelhost/ZelhostLifeCycle.h"
+
+// How the widget is shown, in its own numbers.
+enum WidgetState {
+  kWidgetClosed = 0,
+  kWidgetFullScreen = 1,
+  kWidgetBesideProgramme = 2,  // the programme goes on beside the widget, in one of two ways
+  kWidgetBesideProgrammeAlso = 3,
+};
 
 // The service host: runs the widget's commands, owns the runtime's life cycle and keeps what the widget
 // has said about itself.
@@ -53,6 +62,8 @@ class CZelhostZeltoManager : public CZeltoManagerImp {
 
   void OnData(const CAVData* data) override;
 
+  // Tells the television how the widget is shown now, and answers a call that has waited for the widget:
+  // false then, else true. Numbers other than the enumerated ones are remembered only.
   bool SetZeltoWidgetState(int state) override;
   bool GetZeltoWidgetState() override;
   // The state itself instead of whether the widget is shown.
@@ -80,6 +91,7 @@ class CZelhostZeltoManager : public CZeltoManagerImp {
 
   // Volumes from 0 to 100; others are brought into that range. The call's and the programme's share are
   // also stored as settings. An answer that the television does not give reads as 0.
+  static constexpr int kLoudest = 100;
   void SetSpeakerVolume(int volume);
   void SetCallMixVolume(int volume);
   void SetTVMixVolume(int volume);
@@ -87,15 +99,24 @@ class CZelhostZeltoManager : public CZeltoManagerImp {
   int GetCallMixVolume();
   int GetTVMixVolume();
 
-  // Timers of the widget's display, ids 0 to 9. There are none yet: always false.
+  // Stops a call's pictures in both directions while its sound goes on. `widgetState`: how the widget is
+  // shown, or was until now.
+  static void TakeVideoOffScreen(int widgetState);
+
+  // Timers of the widget's display; see WidgetTimers.
   bool StartWidegtOSDTimer(int milliseconds, int id);
   bool RestartWidegtOSDTimer(int milliseconds, int id);
   bool StopWidegtOSDTimer(int id);
-  // Copy the widget's data file into the engine's storage and back; not done yet: always false.
+
+  // Copies the widget's data file into the engine's storage; false when there is none.
   bool BackupWidgetData();
-  bool RestoreWidgetData();
+  // Copies it back: "1". Without an account the widget's file is removed instead: "0". Null without a
+  // folder of the widget.
+  const char* RestoreWidgetData();
 
  private:
+  void CloseWidget(int before);
+
   friend class zelhost::ManagerInstance<CZelhostZeltoManager>;
   CZelhostZeltoManager() = default;
 
@@ -103,11 +124,12 @@ class CZelhostZeltoManager : public CZeltoManagerImp {
   static constexpr std::size_t kKeptAnswers = 4;
 
   CZelhostLifeCycle m_lifeCycle;
+  WidgetTimers m_timers;
 
   std::array<std::string, kKeptAnswers> m_answers ZELTO_GUARDED_BY(zelhost::ServiceHostMutex::Get());
   std::size_t m_answer ZELTO_GUARDED_BY(zelhost::ServiceHostMutex::Get()) = 0;
 
-  std::atomic<int> m_widgetState{0};
+  std::atomic<int> m_widgetState{kWidgetClosed};
   std::atomic<bool> m_widgetHandlesIncomingCall{false};
   std::atomic<bool> m_tvAudioMixed{false};
   std::atomic<bool> m_autoAnswer{false};

@@ -2,9 +2,9 @@
 
 #include "zelhost/ZelhostAccountManager.h"
 #include "zelhost/ZelhostCallManager.h"
-#include "zelhost/ZelhostChatManager.h"
+#include "zelhost/chats/ZelhostChatManager.h"
 #include "zelhost/ZelhostContactManager.h"
-#include "zelhost/ZelhostHistoryManager.h"
+#include "zelhost/history/ZelhostHistoryManager.h"
 #include "zelhost/ZelhostZeltoManager.h"
 
 CZeltoManagerImp* CZeltoImp::CreateZeltoManagerImp() { return CZelhostZeltoManager::GetInstance(); }

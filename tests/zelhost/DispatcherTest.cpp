@@ -51,7 +51,8 @@ TEST_F(AnEngineBeforeLoad, ClaimsSuccessOnlyForWhatItDoes) {
       "EnableTxVideoDump", "EnableTxAudioDump", "SendKeyFrameRequest", "SetAutoVideoReceive",
       "SetVideoAdvert", "SetCallForward", "SetCallForwardTimer", "SetVoicemailForward",
       "SetVoicemailForwardTimer", "SetVoicemailForReject", "SetVoicemailInBusy", "SetAutoVolumeControl",
-      "SaveDBAutoTracking", "SaveDBZoom", "SaveDBPan", "SaveDBTilt", "SetDebugLevel",
+      "SaveDBAutoTracking", "SaveDBZoom", "SaveDBPan", "SaveDBTilt", "SetDebugLevel", "SetZeltoWidgetState",
+      "StartOSDTimer", "RestartOSDTimer", "StopOSDTimer",
       // whatever the state
       "SetMediaSource", "GetAvailableZeltoname"};
   std::set<std::string> claimed;
@@ -72,7 +73,7 @@ TEST_F(AnEngineBeforeLoad, AnswersQuestionsAsForNothingThere) {
       {"-1", {"GetCallType", "GetIndexOfContact", "GetHistoryIndexWithTimestamp"}},
       {"0",
        {"GetNumOfContacts", "GetISOCountryPrefix", "IsInCall", "GetVideoAdvert", "GetMicVolume",
-        "BlockIncomingCall", "StartOSDTimer", "BackupWidgetData", "GetLoginState", "SaveSnapShot", "Load"}},
+        "BlockIncomingCall", "BackupWidgetData", "GetLoginState", "SaveSnapShot", "Load"}},
       {"2", {"GetAutoVideoReceive"}},
       {"3", {"GetZeltoState"}},
       {"",

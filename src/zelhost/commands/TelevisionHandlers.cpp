@@ -1,30 +1,11 @@
 // Commands that arrange the television's picture and sound around a call.
-#include <array>
-#include <charconv>
-
 #include "Common/Log.h"
+#include "zelhost/Television.h"
 #include "zelhost/commands/Handlers.h"
 
 namespace zelhost {
 
 namespace {
-
-// A number as the text that the host is given.
-class Decimal {
- public:
-  explicit Decimal(int value) { *std::to_chars(m_digits, m_digits + sizeof m_digits - 1, value).ptr = '\0'; }
-  const char* Text() const { return m_digits; }
-
- private:
-  char m_digits[12];
-};
-
-std::string Tell(const char* control, const char* p1 = nullptr, const char* p2 = nullptr,
-                 const char* p3 = nullptr, const char* p4 = nullptr) {
-  return CZeltoManager::CallCommonControl(control, p1, p2, p3, p4);
-}
-
-bool HostSaysYes(const char* question) { return ToInt(Tell(question).c_str()) >= 1; }
 
 // Without double talk the programme would be heard by the far end, so it falls silent.
 void MixProgrammeSound() {
@@ -42,16 +23,6 @@ void ShowExternalVideo() {
 void ReceiveAnew() {
   CCallManager::GetInstance()->StartRecvVideo();
   CZelhostIPCManager::GetInstance()->SendKeyFrameRequest();
-}
-
-void TakeVideoOffScreen(int widgetState) {
-  constexpr int kFullScreen = 1;
-  CCallManager* calls = CCallManager::GetInstance();
-  calls->StopRecvVideo();
-  Tell("CloseExtVideo");
-  calls->StopSendVideo();
-  Tell("ReleaseMixVideo");
-  if (widgetState == kFullScreen) Tell("StopPIGMode");
 }
 
 void LeaveTVMode() {
@@ -80,16 +51,16 @@ void Stop(const CommandCall&, std::string& answer) {
   CCallManager* calls = CCallManager::GetInstance();
   const int state = host->GetZeltoWidgetMode();
   answer.clear();
-  if (state != 0) {
+  if (state != kWidgetClosed) {
     if (calls->IsInCall()) {
       if (HostSaysYes("IsZeltoSupportMultitasking")) {
-        TakeVideoOffScreen(state);
+        CZelhostZeltoManager::TakeVideoOffScreen(state);
         AnswerDone(answer);
       } else {
         Answer(answer, calls->CallEnd(true));
       }
     }
-    const bool besideProgramme = state == 2 || state == 3;
+    const bool besideProgramme = state == kWidgetBesideProgramme || state == kWidgetBesideProgrammeAlso;
     if (!besideProgramme && host->IsTVAudioMixed()) Tell("SetMainMixAudioVolume", "100");
   }
   ZELTO_DEBUG("End of processing \"Stop\" command");

@@ -4,14 +4,14 @@
 #include "Common/DevicePath.h"
 #include "Common/Log.h"
 #include "Common/Platform.h"
+#include "zelhost/EnginePaths.h"
 #include "zelhost/commands/Handlers.h"
 
 namespace zelhost {
 
 void ImgFolderExist(const CommandCall&, std::string& answer) {
-  constexpr char kImageFolder[] = "/mtd_down/widgets/normal/100000000042_img";
-  const bool exists = zelto::System().Access(zelto::DevicePath(kImageFolder).c_str(), F_OK) == 0;
-  if (exists) ZELTO_DEBUG("widget is in %s\n", kImageFolder);
+  const bool exists = zelto::System().Access(zelto::DevicePath(kWidgetImageFolder).c_str(), F_OK) == 0;
+  if (exists) ZELTO_DEBUG("widget is in %s\n", kWidgetImageFolder);
   Answer(answer, exists);
 }
 

@@ -217,14 +217,16 @@ TEST_F(CommandsInACall, SetSourceModeEntersTVModeWithTheViewThatWasSet) {
 
 TEST_F(CommandsInACall, ResumeShowsTheFarEndAgainWhenItIsReceived) {
   const std::string inTVMode =
-      "SupportDoubleTalk() SetMainMixAudioVolume(0) DiscardExtVideoRenderCommand(0) ";
+      "SupportDoubleTalk() SetMainMixAudioVolume(0) SetExtVideoSize(0, 0, 1920, 1080) "
+      "DiscardExtVideoRenderCommand(0) ";
   EXPECT_EQ(Run("ResumeTVModeVideo"), "1");
   EXPECT_EQ(Calls("StartRecvVideo()"), 1);
   EXPECT_EQ(Told(), inTVMode + "OpenExtVideo() StartExtVideo() ");
   EXPECT_TRUE(m_television.WaitFor(430));
   EXPECT_EQ(Run("ResumeNormalModeVideo"), "1");
   EXPECT_EQ(Told(),
-            "SetMainMixAudioVolume(100) DiscardExtVideoRenderCommand(0) OpenExtVideo() StartExtVideo() ");
+            "SetMainMixAudioVolume(100) SetExtVideoSize(124, 34, 1144, 858) DiscardExtVideoRenderCommand(0) "
+            "OpenExtVideo() StartExtVideo() StartPreview(1438, 634, 320, 240) ");
   EXPECT_TRUE(m_television.WaitFor(431));
   recording::TheNotes().truth = false;
   Run("ResumeTVModeVideo");

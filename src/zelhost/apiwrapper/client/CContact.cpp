@@ -1,6 +1,20 @@
 #include "zelhost/apiwrapper/client/CContact.h"
 
+#include "zelhost/ZelhostContactManager.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
+
+const ZEString& CContact::Key() {
+  if (m_key.isEmpty()) m_key = GetProp(P_IDENTITY);
+  if (m_key.isEmpty()) m_key = GetProp(P_PHONE_NUMBER);
+  return m_key;
+}
+
+void CContact::OnChange(int property, const ZEString& value) {
+  ClientObject::OnChange(property, value);
+  if (!CZelhostContactManager::IsFollowed(property)) return;
+  const ZEString key = Key();
+  if (!key.isEmpty()) CZelhostContactManager::GetInstance()->UpdateContactInfo(key, property, value, this);
+}
 
 void CContact::OnContactGoneOffline() {
   const CZelto* root = client::RootOf(*this);

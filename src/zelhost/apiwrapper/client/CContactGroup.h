@@ -3,11 +3,23 @@
 #include "apiwrapper/ContactGroup.h"
 #include "zelhost/apiwrapper/client/ClientObject.h"
 
-// A hardwired or custom group of contacts.
+// A hardwired or custom group of contacts: tells the contact list and the widget who joins or leaves the
+// groups that matter to them.
 // Threads: the caller holds the service-host mutex.
 class CContactGroup : public ClientObject<ContactGroup, kTraceContactGroup> {
  public:
   using ClientObject::ClientObject;
 
-  void OnGroupChanged(Contact* contact, bool added) override;
+  void OnChange(int property, const ZEString& value) override;
+  void OnGroupChanged(Contact* contact, bool joined) override;
+
+ private:
+  // A custom group's own name, or the protocol's name of its type.
+  ZEString Name();
+  int Type();
+  void TraceChange(Contact* contact, bool joined);
+  void OnWaitingContact(Contact* contact, bool joined);
+
+  int m_type = 0;  // 0 until the runtime has told
+  ZEString m_customName;
 };

@@ -1,7 +1,7 @@
 #include "zelhost/apiwrapper/client/CSearch.h"
 
 #include "apiwrapper/ZEPtrVector.h"
-#include "zelhost/ZelhostHistoryManager.h"
+#include "zelhost/history/ZelhostHistoryManager.h"
 
 void CSearch::OnChange(int property, const ZEString& value) {
   client::TraceChange(*this, kTraceSearch, property, value);

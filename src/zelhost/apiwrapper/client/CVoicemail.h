@@ -1,12 +1,19 @@
 #pragma once
 
 #include "apiwrapper/Voicemail.h"
-#include "zelhost/apiwrapper/client/ClientObject.h"
+#include "zelhost/apiwrapper/client/DescribedObject.h"
 
-// A voicemail; leaves the root's voicemail list when it goes.
+// A voicemail, received or being left; its changes mean events.
 // Threads: the caller holds the service-host mutex.
-class CVoicemail : public ClientObject<Voicemail, kTraceVoicemail> {
+class CVoicemail : public DescribedObject<Voicemail, kTraceVoicemail> {
  public:
-  using ClientObject::ClientObject;
+  using DescribedObject::DescribedObject;
+  // Leaves the root's voicemail list and, when it is being played, the history manager.
   ~CVoicemail() override;
+
+  void OnChange(int property, const ZEString& value) override;
+  void OnDelete() override;
+
+ private:
+  void OnStatus(int status);
 };

@@ -9,6 +9,7 @@
 #include "Common/DevicePath.h"
 #include "Common/Log.h"
 #include "Common/Platform.h"
+#include "zelhost/ZelhostCallManager.h"
 #include "zelhost/apiwrapper/client/CAccount.h"
 #include "zelhost/apiwrapper/client/CAppToApp.h"
 #include "zelhost/apiwrapper/client/CCall.h"
@@ -107,6 +108,7 @@ void CZelto::trace_do(const ZEString& text) {
 }
 
 void CZelto::FlushQuickLists() {
+  if (CCall* call = m_calls.At(0)) CZelhostCallManager::GetInstance()->NoteCallDropped(call);
   m_calls.Clear();
   m_chats.Clear();
   m_transfers.Clear();

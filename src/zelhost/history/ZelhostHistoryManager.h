@@ -25,6 +25,8 @@ class CZelhostHistoryManager : public CHistoryManagerImp {
   void SetCurrentPlayingVoicemail(Voicemail* voicemail);
   // Stops the voicemail that is being played and forgets it; false when none was.
   bool StopPlayingVoicemail();
+  // A voicemail object is going: it may not be played any more. Creates no manager.
+  static void ForgetVoicemail(const Voicemail* voicemail);
   // Empties the list; part of every sign-out.
   void ClearHistoryList();
 

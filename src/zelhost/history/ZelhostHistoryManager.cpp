@@ -1,4 +1,4 @@
-#include "zelhost/ZelhostHistoryManager.h"
+#include "zelhost/history/ZelhostHistoryManager.h"
 
 #include "Common/HistoryManager.h"
 #include "Common/ZeltoManager.h"
@@ -25,6 +25,12 @@ bool CZelhostHistoryManager::StopPlayingVoicemail() {
   m_playing->StopPlayback();
   m_playing = nullptr;
   return true;
+}
+
+void CZelhostHistoryManager::ForgetVoicemail(const Voicemail* voicemail) {
+  zelhost::ServiceHostLock lock("ForgetVoicemail");
+  CZelhostHistoryManager* manager = m_instance.Existing();
+  if (manager != nullptr && manager->m_playing == voicemail) manager->m_playing = nullptr;
 }
 
 void CZelhostHistoryManager::ClearHistoryList() {}

@@ -1,4 +1,4 @@
-#include "zelhost/ZelhostChatManager.h"
+#include "zelhost/chats/ZelhostChatManager.h"
 
 CZelhostChatManager::~CZelhostChatManager() { m_instance.Forget(); }
 
