@@ -40,6 +40,9 @@ constexpr std::size_t kSoundFrame = 960;
 constexpr std::size_t kPictureFrame = 1 << 20;
 constexpr std::size_t kSlots = 4;
 
+// A process that never had a second thread gets its locks for nothing; the engine's has many.
+const bool g_hasHadThreads = (std::thread([] {}).join(), true);
+
 template <std::size_t kSize>
 struct Block {
   unsigned char data[kSize];

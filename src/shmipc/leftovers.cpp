@@ -18,16 +18,27 @@ void RemoveIfUnused(key_t key) {
   system.ShmCtl(id, IPC_RMID, nullptr);
 }
 
-}  // namespace
-
-void SHMIPC_remove_leftovers(void) {
-  const std::string path = zelto::DevicePath(shmipc::kKeyFile);
-  // Under the lock that every opening takes: a segment just created and not yet attached is no leftover.
-  const shmipc::KeyFile file(path, 0);
-  if (!file.IsLocked()) return;
+// The caller holds the lock that every opening takes: a segment just created and not yet attached is no
+// leftover.
+void RemoveUnused(const std::string& path) {
   for (const shmipc::Channel& channel : shmipc::kChannels) {
     const key_t key = zelto::System().Ftok(path.c_str(), channel.project);
     if (key != -1) RemoveIfUnused(key);
   }
+}
+
+}  // namespace
+
+void SHMIPC_remove_leftovers(void) {
+  const std::string path = zelto::DevicePath(shmipc::kKeyFile);
+  const shmipc::KeyFile file(path, 0);
+  if (!file.IsLocked()) return;
+  RemoveUnused(path);
   zelto::System().Unlink(path.c_str());
+}
+
+void SHMIPC_claim_keys(void) {
+  const std::string path = zelto::DevicePath(shmipc::kKeyFile);
+  const shmipc::KeyFile file(path, O_CREAT);
+  if (file.IsLocked()) RemoveUnused(path);
 }

@@ -39,6 +39,12 @@ CZelhostBuffer* MediaSender::RingFor(const unsigned char* data, unsigned size) c
   return buffer;
 }
 
+bool MediaSender::Put(CZelhostBuffer& ring, const unsigned char* data, unsigned size,
+                      unsigned long timestamp) {
+  zelto::MutexLock lock(m_putLock);
+  return ring.Write(data, size, timestamp);
+}
+
 // A host that never pauses would keep the ring filled for ever, so a stop is looked for at each frame.
 bool MediaSender::DeliverFrames() {
   CZelhostBuffer& buffer = *m_buffer.load();

@@ -32,6 +32,8 @@ class MediaSender : public MediaThread {
  protected:
   // Where a frame from the host belongs; null, logged, without a ring or a frame. Any thread.
   CZelhostBuffer* RingFor(const unsigned char* data, unsigned size) const;
+  // Copies the frame into the ring; a host may come with several threads at once. Any thread.
+  bool Put(CZelhostBuffer& ring, const unsigned char* data, unsigned size, unsigned long timestamp);
   // Sends what the ring holds; pauses when it is empty. False: nothing can be sent.
   bool DeliverFrames();
   virtual void SendFrame(const unsigned char* data, unsigned size) = 0;
@@ -42,6 +44,7 @@ class MediaSender : public MediaThread {
   const Kind& m_kind;
   // Made once and then there as long as the sender, since the host's thread looks for it at any time.
   std::atomic<CZelhostBuffer*> m_buffer{nullptr};
+  zelto::Mutex m_putLock{zelto::LockRank::Ring, "frames from the host"};  // one writes at a time
   std::atomic<bool> m_dumpEnabled{false};
   int m_dump = -1;  // the file's descriptor
 };

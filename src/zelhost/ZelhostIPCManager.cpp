@@ -70,6 +70,7 @@ void CZelhostIPCManager::Initialize() {
   StopRunning();
   CloseAllChannel();
   SHMIPC_remove_leftovers();
+  SHMIPC_claim_keys();
   OpenAllChannel();
 }
 

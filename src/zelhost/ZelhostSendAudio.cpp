@@ -68,7 +68,7 @@ CZelhostSendAudio::CZelhostSendAudio() : MediaSender(zelhost::kAudioOutChannel, 
 
 bool CZelhostSendAudio::PutData(const unsigned char* data, unsigned size) {
   CZelhostBuffer* const ring = RingFor(data, size);
-  return ring != nullptr && ring->Write(data, size, 0);
+  return ring != nullptr && Put(*ring, data, size, 0);
 }
 
 void CZelhostSendAudio::Begin() {

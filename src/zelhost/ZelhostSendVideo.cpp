@@ -27,7 +27,7 @@ bool CZelhostSendVideo::PutData(unsigned char* data, unsigned size, unsigned lon
     return false;
   }
   std::memcpy(data, &stamp, sizeof stamp);
-  return ring->Write(data, size, timestamp);
+  return Put(*ring, data, size, timestamp);
 }
 
 void CZelhostSendVideo::Begin() {

@@ -90,7 +90,9 @@ void CallCourse::VideoChanged() {
   UpdateMedia();
 }
 
+// An echo waits for pictures from the beginning: a television sends them before it has asked for anything.
 FarPicture CallCourse::PictureToShow() const {
+  if (m_farEnd.picture == FarPicture::Echo) return FarPicture::Echo;
   const bool shown = std::any_of(m_members.begin(), m_members.end(), [](const auto& member) {
     return member->Received() != nullptr && member->Received()->IsRunning();
   });
