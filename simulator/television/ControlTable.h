@@ -41,7 +41,7 @@ struct StateRow {
 inline constexpr StateRow kInitialState[] = {
     {"model",            "ZTV-55"},
     {"autoStart",        "0"},
-    {"language",         "1"},
+    {"language",         "12"},  // English
     {"clockOffset",      "0"},   // seconds that the television's clock is ahead of this machine's
     {"speakerVolume",    "20"},
     {"mainMixVolume",    "100"},
@@ -55,6 +55,7 @@ inline constexpr StateRow kInitialState[] = {
     {"micCount",         "2"},
     {"micDistances",     "45 20"},  // centimetres
     {"beamFormer",       "0"},
+    {"cameraReady",      "1"},
     {"camera",           "off"},
     {"cameraLight",      "0"},
     {"cameraLightMode",  "0"},
@@ -123,6 +124,7 @@ inline constexpr ControlRow kControls[] = {
     {"GetCameraNumOfMic",                 ControlEffect::Answer,    "micCount",        ""},
     {"GetCameraMicDistance",              ControlEffect::AnswerOne, "micDistances",    ""},
     {"IsCameraBeamFormerEnabled",         ControlEffect::Answer,    "beamFormer",      ""},
+    {"IsCameraReady",                     ControlEffect::Answer,    "cameraReady",     ""},
     {"StartCamera",                       ControlEffect::Fixed,     "camera",          "on"},
     {"StopCamera",                        ControlEffect::Fixed,     "camera",          "off"},
     {"CaptureTest",                       ControlEffect::Fixed,     "captureTest",     "1"},

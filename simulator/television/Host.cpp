@@ -6,7 +6,7 @@ namespace television {
 
 namespace {
 
-// Public events whose parameters are no texts (17: a notice record).
+// The public event whose parameter is no text but a notice record.
 constexpr int kShowNotice = 17;
 
 // A television keeps the recent past only; a script that never waits must not collect for ever.
@@ -80,7 +80,12 @@ bool Host::OnEvent(const CEngineEvent* event, void* user) {
   Report report;
   report.kind = Report::Kind::Event;
   report.type = event->type;
-  if (event->type != kShowNotice) report.parameters = Texts({event->param1, event->param2});
+  if (event->type == kShowNotice && event->param1 != nullptr) {
+    const auto* record = reinterpret_cast<const CEngineGlobalNoticeInfo*>(event->param1);
+    report.notice = std::make_shared<const Notice>(CopyNotice(*record));
+  } else {
+    report.parameters = Texts({event->param1, event->param2});
+  }
   {
     const std::lock_guard<std::mutex> lock(self->m_mutex);
     self->m_state.Event(event->type);

@@ -4,11 +4,13 @@
 #include <condition_variable>
 #include <deque>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <string>
 #include <vector>
 
 #include "Common/IMoIPEngine.h"
+#include "simulator/television/Notice.h"
 #include "simulator/television/TelevisionState.h"
 
 namespace television {
@@ -17,10 +19,11 @@ namespace television {
 struct Report {
   enum class Kind { Event, Control };
   Kind kind;
-  int type = 0;                         // of an event
-  std::string command;                  // of a control call
-  std::vector<std::string> parameters;  // texts that were given; trailing absent ones left out
-  std::string answer;                   // what the television answered to a control call
+  int type = 0;                                    // of an event
+  std::string command;                             // of a control call
+  std::vector<std::string> parameters;             // texts that were given; trailing absent ones left out
+  std::string answer;                              // what the television answered to a control call
+  std::shared_ptr<const Notice> notice = nullptr;  // to be shown
 };
 
 // The television's side of the host interface: the three functions that the engine calls. They only copy

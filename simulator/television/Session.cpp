@@ -29,6 +29,7 @@ const Session::Verb Session::kVerbs[] = {
     {"restart",      "",                       "ends the engine and starts another one",                   &Session::Restart},
     {"wait",         "event [seconds [param]]","waits for an event, by number or name",                    &Session::WaitEvent},
     {"wait-control", "command [seconds]",      "waits for a control call of the engine",                   &Session::WaitControl},
+    {"pause",        "seconds",                "lets time pass",                                           &Session::Pause},
     {"expect",       "text",                   "the last answer must be this",                             &Session::Expect},
     {"expect-like",  "expression",             "the last answer must match this regular expression",       &Session::ExpectLike},
     {"set",          "name value",             "changes the television, as the remote control would",      &Session::Set},
@@ -42,6 +43,9 @@ const Session::Verb Session::kVerbs[] = {
     {"media",        "",                       "counters of the call's sound and pictures",                &Session::ShowMedia},
     {"watch",        "[seconds]",              "the same counters while they run",                         &Session::Watch},
     {"state",        "keep|compare",           "the television before (keep) and after (compare) a call",  &Session::CompareState},
+    {"notice",       "",                       "the notice on top, in one line, or \"none\"",             &Session::TellNotice},
+    {"press",        "[button]",               "presses a button of it (number, label, command)",          &Session::PressButton},
+    {"language",     "[name|code|number]",     "switches the television's language, or lists them",         &Session::SwitchLanguage},
     {"say",          "text",                   "prints a heading",                                         &Session::Say},
     {"quit",         "",                       "switches the television off",                              &Session::Quit},
 };
@@ -51,6 +55,7 @@ Session::Session(const std::string& library, const DeviceRoot& root, const Media
                  Screen& screen)
     : m_root(root),
       m_screen(screen),
+      m_board([this](const std::string& lines) { m_screen.Line(lines); }),
       m_studio(media),
       m_errands([this](const std::string& line, const std::string& answer) {
         m_screen.Command(line + "   (the television itself)");
@@ -59,6 +64,7 @@ Session::Session(const std::string& library, const DeviceRoot& root, const Media
       m_library(library) {
   m_host.SetObserver([this](const Report& report) {
     m_screen.Show(report);
+    m_board.Take(report);
     m_studio.Control(report.command);
     m_errands.Take(report);
   });
@@ -81,6 +87,7 @@ void Session::Attach() {
 void Session::Detach() {
   m_errands.Detach();
   m_studio.Detach();
+  m_board.Clear();
 }
 
 void Session::Run(const std::string& line) {

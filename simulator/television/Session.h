@@ -9,6 +9,7 @@
 #include "simulator/television/EngineLibrary.h"
 #include "simulator/television/Errands.h"
 #include "simulator/television/Host.h"
+#include "simulator/television/NoticeBoard.h"
 #include "simulator/television/Screen.h"
 #include "simulator/television/media/MediaStudio.h"
 
@@ -16,8 +17,8 @@ namespace television {
 
 // A television with its engine, driven by lines: the engine's string commands by their names, the host
 // queries, and a few words of the console's own (Session.cpp lists them in one table; SessionCalls.cpp has
-// those about contacts and calls). A person at the prompt and a script use the same lines.
-// Threads: one.
+// those about contacts and calls, SessionNotices.cpp those about notices). A person at the prompt and a
+// script use the same lines. Threads: one.
 class Session {
  public:
   // Throws std::runtime_error when the library cannot be loaded or the media can't be used.
@@ -56,6 +57,7 @@ class Session {
   void ExpectLike(const Words& words);
   void WaitEvent(const Words& words);
   void WaitControl(const Words& words);
+  void Pause(const Words& words);
   void Set(const Words& words);
   void Show(const Words& words);
   void Reports(const Words& words);
@@ -69,6 +71,9 @@ class Session {
   void ShowMedia(const Words& words);
   void Watch(const Words& words);
   void CompareState(const Words& words);
+  void TellNotice(const Words& words);
+  void PressButton(const Words& words);
+  void SwitchLanguage(const Words& words);
 
   void Attach();
   void Detach();
@@ -82,6 +87,7 @@ class Session {
   const DeviceRoot& m_root;
   Screen& m_screen;
   Host m_host;
+  NoticeBoard m_board;
   MediaStudio m_studio;
   Errands m_errands;
   EngineLibrary m_library;  // after what its threads call

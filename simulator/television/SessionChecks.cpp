@@ -77,4 +77,8 @@ void Session::WaitControl(const Words& words) {
        "no control call " + command + " within " + std::to_string(seconds) + " s");
 }
 
+void Session::Pause(const Words& words) {
+  Wait("time to pass", Seconds(words, 1), [](const Report&) { return false; });
+}
+
 }  // namespace television

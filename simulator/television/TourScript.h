@@ -1,5 +1,6 @@
 // What `zelto-tv --tour` shows: a television is switched on, a viewer signs in, changes things, sees who is
-// there, calls and is called, signs out and is signed in by himself the next time.
+// there, calls and is called, reads notices in three scripts, signs out and is signed in by himself the next
+// time.
 #pragma once
 
 namespace television {
@@ -52,6 +53,19 @@ expect-like sndtest
 query GetContactStatus maria
 expect "yes | 1"
 
+say The viewer watches television, in Korean; somebody rings and gives up
+language Korean
+door {"order":"call","from":"maria","video":1}
+wait INCOMING_CALL 10
+wait PUBLIC_SHOW_NOTICE 5
+notice
+expect-like ^0 .* 님의 전화…
+door {"order":"hangup"}
+wait MISSED_CALL 10
+wait PUBLIC_SHOW_NOTICE 5
+notice
+expect-like ^7 .*전화를 받지 못했습니다
+
 say A video call to the echo test, which gives back what it gets
 state keep
 call sndtest video
@@ -69,21 +83,47 @@ hangup
 wait CALL_MEMBERS_CLEARED 10
 SetZeltoWidgetState 0
 
-say A call comes while the widget is closed; answering starts it, beside the programme
+say A call comes, in Arabic; the viewer presses the notice's third button and declines
+language Arabic
 door {"order":"call","from":"maria","video":1}
 wait INCOMING_CALL 10
-answer video
+wait PUBLIC_SHOW_NOTICE 5
+notice
+expect-like ^0 .*يتصل بك…
+press 3
+expect 1
+wait CALL_MEMBERS_CLEARED 10
+
+say A call comes, in Greek; the viewer presses what has the focus, and the widget starts beside the programme
+language Greek
+# Right after a call none comes in.
+pause 5
+door {"order":"call","from":"maria","video":1}
+wait INCOMING_CALL 10
+wait PUBLIC_SHOW_NOTICE 5
+notice
+expect-like ^0 .*Κλήση από .*Βιντεοκλήση[*] -> AnswerWithVideo
+press
+expect 1
 wait CALLMEMBER_INPROGRESS 10
 wait-control StartCallWithTV 5
 reports off
 watch 3
 expect-like one way
 reports on
-hangup
-wait CALL_MEMBERS_CLEARED 10
-SetZeltoWidgetState 0
 
-say The television before the two calls and after them
+say The widget is closed, the call goes on; its duration is shown with a button that ends it
+SetZeltoWidgetState 0
+wait CALL_DURATION 5
+wait PUBLIC_SHOW_NOTICE 5
+notice
+expect-like ^6 .* 00:00:.*Τερματισμός κλήσης
+press CallEnd
+expect 1
+wait CALL_MEMBERS_CLEARED 10
+language English
+
+say The television before the calls and after them
 state compare
 # The places of the pictures stay until others are given.
 expect "cameraRect extVideoRect widgetParam"

@@ -2,6 +2,8 @@
 // This is the only header a host needs; it includes nothing but the standard library.
 #pragma once
 
+#include <cstdlib>
+#include <cstring>
 #include <string>
 
 #if defined(__GNUC__)
@@ -24,6 +26,34 @@ struct CEngineEvent {
 class CEngineData {
  public:
   virtual ~CEngineData() = default;
+};
+
+// A popup that the host is to show over the programme, as parameter 1 of public event 17: the parameter
+// points to this record. The engine deletes it, with all its texts, right after the callback returned. Texts
+// are NUL-terminated, null when there is none; titles, descriptions and labels are UTF-16, the others UTF-8.
+class CEngineGlobalNoticeInfo : public CEngineData {
+ public:
+  CEngineGlobalNoticeInfo() = default;
+  CEngineGlobalNoticeInfo(const CEngineGlobalNoticeInfo&) = delete;
+  CEngineGlobalNoticeInfo& operator=(const CEngineGlobalNoticeInfo&) = delete;
+  ~CEngineGlobalNoticeInfo() override {
+    std::free(title);
+    std::free(description);
+    std::free(iconPath);
+    for (unsigned short* text : buttonTexts) std::free(text);
+    for (char* command : buttonCallbacks) std::free(command);
+  }
+
+  int id = 0;                       // public event 18 hides the notice by it
+  bool append = true;               // false: takes the place of the notice of this id that is shown
+  int duration = 3000;              // milliseconds on the screen; 0: until it is hidden
+  int buttonCount = 3;              // 0 to 3
+  int defaultFocus = 1;             // index of the button that has the focus
+  unsigned short* title = nullptr;  // all texts: the C allocator's
+  unsigned short* description = nullptr;
+  char* iconPath = ::strdup("Resource/icon_zelto.png");  // relative to the engine's home
+  unsigned short* buttonTexts[3] = {};
+  char* buttonCallbacks[3] = {};  // the command to execute when the button is pressed
 };
 
 // Audio or video on its way between host and engine. Never owned by the receiver: the data is valid

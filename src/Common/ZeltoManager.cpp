@@ -15,6 +15,7 @@
 #include "Common/HistoryManager.h"
 #include "Common/HostControl.h"
 #include "Common/Log.h"
+#include "Common/Notices.h"
 #include "Common/Platform.h"
 #include "Common/ZeltoImp.h"
 #include "zelhost/LifeCycleLimits.h"
@@ -24,6 +25,7 @@ using zelto::EventHandlers;
 using zelto::EventQueue;
 using zelto::Guard;
 using zelto::HostControl;
+using zelto::Notices;
 
 std::atomic<CZeltoManager*> CZeltoManager::s_instance{nullptr};
 std::atomic<bool> CZeltoManager::s_created{false};
@@ -123,6 +125,7 @@ void CZeltoManager::Destroy(IMoIPEngine* engine) noexcept {
 CZeltoManager::CZeltoManager() {
   SetWidgetStarted(false);
   SetRunWidgetParam(std::string());
+  Notices::Get().Reset();
   if (!m_eventThread.Start()) {
     ZELTO_FATAL("fail to create event thread");
     throw std::runtime_error("no event thread");
@@ -147,6 +150,7 @@ CZeltoManager::~CZeltoManager() noexcept {
   ZELTO_DEBUG("CZeltoManager::Destructor 6");
   s_instance.store(nullptr, std::memory_order_release);
   ZELTO_DEBUG("CZeltoManager::Destructor Done");
+  InitGlobalNoticeInfo();
 }
 
 // The thread may be waiting for the service host, which a runtime that does not answer keeps busy: that one
@@ -236,6 +240,12 @@ void CZeltoManager::NotifyHardwiredEvent(unsigned type, const char* p1, const ch
   Deliver(static_cast<int>(type), p1, p2);
 }
 
+void CZeltoManager::NotifyNewHardwiredEvent(unsigned type, CEngineGlobalNoticeInfo& notice) {
+  ZELTO_DEBUG("CZeltoManager::%s: public event type = %u\n", "NotifyNewHardwiredEvent", type);
+  // The record's parameters are texts for every other event.
+  HostControl::Get().Deliver({static_cast<int>(type), reinterpret_cast<char*>(&notice), nullptr});
+}
+
 std::string CZeltoManager::CallCommonControl(const char* cmd, const char* p1, const char* p2, const char* p3,
                                              const char* p4) {
   return HostControl::Get().Call(cmd, p1, p2, p3, p4);
@@ -245,9 +255,10 @@ void CZeltoManager::SendAVData(const CAVData* data, unsigned int* extra) {
   HostControl::Get().SendData(data, extra);
 }
 
-void CZeltoManager::ShowNotification(int, int) {}
-void CZeltoManager::HideNotification(int) {}
-void CZeltoManager::HideAllNotification() {}
+void CZeltoManager::ShowNotification(int id, int param) { Notices::Get().Show(id, param); }
+void CZeltoManager::HideNotification(int id) { Notices::Get().Hide(id); }
+void CZeltoManager::HideAllNotification() { Notices::Get().HideAll(); }
+void CZeltoManager::InitGlobalNoticeInfo() { Notices::Get().Discard(); }
 
 // --- The widget
 

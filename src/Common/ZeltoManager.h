@@ -73,16 +73,20 @@ class CZeltoManager final : public IMoIPEngine, public EngineEventTypes {
   static void NotifyEngineEvent(int type, const char* p1, const char* p2);
   static void NotifyEngineEvent(const CZeltoEvent* event);
   static void NotifyHardwiredEvent(unsigned type, const char* p1, const char* p2);
+  // A public event with a notice, which stays the caller's.
+  static void NotifyNewHardwiredEvent(unsigned type, CEngineGlobalNoticeInfo& notice);
   // The television's answer; empty when there is none.
   static std::string CallCommonControl(const char* cmd, const char* p1 = nullptr, const char* p2 = nullptr,
                                        const char* p3 = nullptr, const char* p4 = nullptr);
   // Hands a record to the data callback, without the callback mutex. The record stays the caller's.
   static void SendAVData(const CAVData* data, unsigned int* extra);
 
-  // --- Notices. There are none yet: all three discard.
+  // --- Notices, by their numbers in NoticeTable.h. On the event thread.
   static void ShowNotification(int id, int param);
   static void HideNotification(int id);
   static void HideAllNotification();
+  // Frees the present notice.
+  static void InitGlobalNoticeInfo();
 
   // --- The widget.
   // Tells the widget that it is launched, remembers the parameter and has the host start it. Answers what

@@ -98,13 +98,6 @@ bool CZelhostZeltoManager::GetOnlineState() { return m_online; }
 void CZelhostZeltoManager::SetSigninPopupShowState(bool shown) { m_signinPopupShown = shown; }
 bool CZelhostZeltoManager::GetSigninPopupShowState() { return m_signinPopupShown; }
 
-// There are no notices yet that could be shown.
-bool CZelhostZeltoManager::CheckShowSignedInPopup() { return false; }
-bool CZelhostZeltoManager::CheckShowOnlinePopup() { return false; }
-bool CZelhostZeltoManager::CheckShowCallDurationPopup() { return false; }
-bool CZelhostZeltoManager::CheckShowCallEndedPopup() { return false; }
-bool CZelhostZeltoManager::CheckShowMissedCallPopup() { return false; }
-
 bool CZelhostZeltoManager::WidgetHandleIncomingCall() { return m_widgetHandlesIncomingCall; }
 
 bool CZelhostZeltoManager::StartWidegtOSDTimer(int milliseconds, int id) {

@@ -28,22 +28,39 @@ class AnEngine : public test::EngineFixture {
 };
 
 TEST_F(AnEngine, TellsTheHostWhatTheServiceMeansAndNothingElse) {
-  const std::map<int, std::string> told = {
-      {256, "19(null, null)"}, {257, "20(null, null)"}, {262, "8(null, null)"},
-      {263, "9(null, null)"},  {267, "7(null, null)"},  {289, "7(null, null)"},
-      {291, "9(null, null)"},  {303, "9(null, null)"},  {371, "4(null, null)"},
-      {378, "22(null, null)"}, {417, "24(null, null)"}, {423, "23(Resource/zelto_bg.png, null)"}};
+#define HIDES(id) "18(" #id ", null)"
+#define SHOWS "GetCurrentLangID[]", "17(notice)"
+  const std::map<int, Log> told = {
+      {256, {"19(null, null)"}},
+      {257,
+       {"20(null, null)", HIDES(0), HIDES(1), HIDES(2), HIDES(3), HIDES(4), HIDES(5), HIDES(6), HIDES(7),
+        HIDES(8)}},
+      {262, {"8(null, null)"}},
+      {263, {"9(null, null)"}},
+      {267, {HIDES(8), "GetCurrentLangID[]", "IsCameraReady[]", "17(notice)", "7(null, null)"}},
+      {277, {HIDES(6)}},
+      {282, {SHOWS}},
+      {289, {HIDES(8), SHOWS, "7(null, null)"}},
+      {291, {HIDES(6), HIDES(0), "9(null, null)"}},
+      {294, {SHOWS}},
+      {303, {HIDES(6), HIDES(0), "9(null, null)"}},
+      {304, {HIDES(6)}},
+      {371, {"4(null, null)"}},
+      {378, {"22(null, null)"}},
+      {417, {"24(null, null)"}},
+      {423, {"23(Resource/zelto_bg.png, null)"}},
+      {426, {HIDES(7)}}};
   std::vector<int> types = {-1, 100000, 199111, 2147483647};
   for (int type = 250; type < 440; ++type) types.push_back(type);
   for (int type : types) {
     const auto expected = told.find(type);
-    EXPECT_EQ(After(type), expected != told.end() ? Log{expected->second} : Log{}) << type;
+    EXPECT_EQ(After(type), expected != told.end() ? expected->second : Log{}) << type;
   }
 }
 
 TEST_F(AnEngine, UnmutesTheSpeakerForARingWhileTheWidgetIsShown) {
   FakeService::host->widgetShown = true;
-  for (int ring : {262, 267, 289}) EXPECT_EQ(After(ring).at(1), "MuteSpeakerVolume[0]") << ring;
+  for (int ring : {262, 267, 289}) EXPECT_EQ(After(ring).back(), "MuteSpeakerVolume[0]") << ring;
   EXPECT_EQ(After(378), Log{});
 }
 

@@ -37,8 +37,9 @@ struct FakeService {
     const auto found = answers.find(question.str());
     return found != answers.end() ? found->second.c_str() : nullptr;
   }
-  static int Number(const char* kind, const char* name) {
-    const char* text = Text(kind, name);
+  template <class... Parts>
+  static int Number(const char* kind, const Parts&... parts) {
+    const char* text = Text(kind, parts...);
     return text != nullptr ? std::atoi(text) : -1;
   }
 };
@@ -73,11 +74,13 @@ struct FakeContacts : recording::ContactManager {
   const char* GetContactImage(const char* name) override { return FakeService::Text("image", name); }
   int GetContactStatus(const char* name) override { return FakeService::Number("status", name); }
   const char* GetStateChangedContact() override { return FakeService::Text("changed"); }
+  const char* GetOnlinedContactName() override { return FakeService::Text("onlined"); }
 };
 
 struct FakeCall : recording::CallManager, Counted<FakeCall> {
   bool OnEvent(const CZeltoEvent* event) override { return Run(onEvent, event); }
   bool IsInCall() override { return inCall; }
+  const char* GetCallMemberName(int index) override { return FakeService::Text("member", index); }
   bool CallEnd(bool force) override {
     if (onCallEnd) onCallEnd(force);
     return true;
@@ -93,6 +96,10 @@ struct FakeHistory : recording::HistoryManager {
   int GetHistoryIndexWithTimestamp(const char* time) override {
     return FakeService::Number("position", time);
   }
+  bool isMissedCallOneMember() override { return FakeService::Text("missed by") != nullptr; }
+  int GetNumOfMissedCall() override { return FakeService::Number("missed"); }
+  std::string GetMissedCallMemberName() override { return FakeService::Text("missed by"); }
+  std::string GetMissedCallTimeStamp() override { return FakeService::Text("missed at"); }
 };
 
 }  // namespace test

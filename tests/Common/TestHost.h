@@ -29,8 +29,8 @@ class TestHost {
     return engine;
   }
 
-  // The calls since the last time, in order: "307(65, null)" is an event, "GetLocalTime[0]" a control call
-  // without those of its parameters that are null at the end.
+  // The calls since the last time, in order: "307(65, null)" is an event, "17(notice)" one that carries a
+  // notice, "GetLocalTime[0]" a control call without those of its parameters that are null at the end.
   Log TakeLog() {
     const std::lock_guard lock(m_lock);
     return std::exchange(m_log, {});
@@ -52,8 +52,9 @@ class TestHost {
 
   static bool OnEvent(const CEngineEvent* event, void* user) {
     auto* host = static_cast<TestHost*>(user);
-    host->Note(std::to_string(event->type) + "(" + Written(event->param1) + ", " + Written(event->param2) +
-               ")");
+    const bool isNotice = event->type == CZeltoManager::PUBLIC_SHOW_NOTICE;
+    host->Note(std::to_string(event->type) + "(" +
+               (isNotice ? "notice" : Written(event->param1) + ", " + Written(event->param2)) + ")");
     if (host->onEvent) host->onEvent(*event);
     return true;
   }

@@ -79,7 +79,8 @@ class RecordingHost {
   static bool OnEvent(const CEngineEvent* event, void* user) {
     auto* self = static_cast<RecordingHost*>(user);
     const std::lock_guard lock(self->m_mutex);
-    self->m_events.emplace_back(event->type, event->param1 != nullptr ? event->param1 : "");
+    const bool hasText = event->param1 != nullptr && event->type != CZeltoManager::PUBLIC_SHOW_NOTICE;
+    self->m_events.emplace_back(event->type, hasText ? event->param1 : "");
     self->m_changed.notify_all();
     return true;
   }

@@ -29,6 +29,7 @@ enum class CallKind { Voice, Video, Conference };
 
 class ACalledViewer : public ATelevision {
  protected:
+  ~ACalledViewer() override { SwitchOff(); }  // which tells the television a last time
   void SetUp() override;
 
   // The host controls since the last call, in order, each as "StartPIGMode(0, 0, 1920, 1080) ". Questions

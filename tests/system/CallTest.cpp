@@ -14,7 +14,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// What the television is told, in order. By where the widget stands during the call:
+// What the television is told, piece by piece, for a widget over the whole screen and one over the
+// programme.
 #define IN_WIDGET "SetExtVideoSize(124, 34, 1144, 858) "
 #define OVER_PROGRAMME "SetExtVideoSize(0, 0, 1920, 1080) "
 #define CAMERA_IN_WIDGET "SetCamVideoSize(1438, 634, 320, 240) "

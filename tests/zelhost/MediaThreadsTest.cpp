@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include <atomic>
+#include <chrono>
 #include <thread>
 
 #include "tests/zelhost/MediaFixture.h"
@@ -70,7 +71,10 @@ TEST_F(AMediaBridge, TellsWhenTheQualityOfPicturesChanges) {
   m_media->StartExchangeData(4);
   const std::string picture(200'000, 'p');
   const auto sendUntil = [&](int event, const std::string& bytes) {
-    for (int i = 0; i < 400 && m_host.CountUntilNow(event) == 0; ++i) EXPECT_TRUE(m_videoIn->Send(4, bytes));
+    const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    while (m_host.CountUntilNow(event) == 0 && std::chrono::steady_clock::now() < limit) {
+      EXPECT_TRUE(m_videoIn->Send(4, bytes));
+    }
     return m_host.CountUntilNow(event) > 0;
   };
   EXPECT_TRUE(sendUntil(CZeltoManager::CALL_QUALITY_4, picture));

@@ -2,7 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <ctime>
+#include <string_view>
 
 #include "tests/support/SilentEngine.h"
 
@@ -34,6 +36,12 @@ class RegistrationOnlyEngine : public test::SilentEngine {
   MoIPCommonCtrlFunc m_control = nullptr;
   void* m_user = nullptr;
 };
+
+unsigned short* Allocated(std::u16string_view text) {
+  auto* units = static_cast<unsigned short*>(std::calloc(text.size() + 1, sizeof(unsigned short)));
+  std::copy(text.begin(), text.end(), units);
+  return units;
+}
 
 class ATelevisionHost : public ::testing::Test {
  protected:
@@ -71,15 +79,24 @@ TEST_F(ATelevisionHost, AnswersItsOwnClockAndLocalTime) {
   EXPECT_EQ(engine.Control("GetLocalTime12", "86399"), "1970-01-01 11:59 PM");
 }
 
-TEST_F(ATelevisionHost, CopiesTextsButNeverReadsANoticeRecordAsText) {
+TEST_F(ATelevisionHost, CopiesTextsAndNoticesWhichTheEngineFreesRightAfter) {
   std::vector<Report> seen;
   host.SetObserver([&](const Report& report) { seen.push_back(report); });
   std::string text = "anna";
   engine.Event(21, text.c_str());
   text = "gone";
-  const unsigned char record[4] = {0xff, 0xff, 0xff, 0xff};  // no terminator
-  engine.Event(17, reinterpret_cast<const char*>(record));
+  {
+    CEngineGlobalNoticeInfo record;
+    record.append = false;
+    record.defaultFocus = 0;
+    record.buttonCount = 1;
+    record.title = Allocated(u"Ζελτο");
+    record.buttonTexts[0] = Allocated(u"Ναι");
+    record.buttonCallbacks[0] = ::strdup("CallEnd");
+    engine.Event(17, reinterpret_cast<const char*>(&record));
+  }
   ASSERT_EQ(seen.size(), 2u);
   EXPECT_THAT(seen[0].parameters, ElementsAre("anna"));
-  EXPECT_TRUE(seen[1].parameters.empty());
+  EXPECT_EQ(Written(*seen[1].notice),
+            "0 | replace | 3000 ms | Ζελτο |  | Resource/icon_zelto.png | Ναι* -> CallEnd");
 }
