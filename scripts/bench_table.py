@@ -23,7 +23,7 @@ ROWS = [
     ("drain an event / boost lockfree", "DrainEvent/zelto10", "DrainEvent/boost_lockfree", 1.5, "time"),
     ("drain with 100,000 queued / with 10", "DrainEvent/zelto100000", "DrainEvent/zelto10", 1.3, "time"),
     ("media ring, 960 bytes / boost lockfree", "Ring960/zelto", "Ring960/boost_lockfree", 1.0, "time"),
-    ("the same, read in place", "Ring960InPlace/zelto", "Ring960InPlace/boost_lockfree", 1.3, "time"),
+    ("the same, read in place", "Ring960InPlace/zelto", "Ring960InPlace/boost_lockfree", 1.0, "time"),
     ("media ring, 1 MiB / boost lockfree", "Ring1MiB/zelto", "Ring1MiB/boost_lockfree", 1.05, "time"),
     ("a call's CPU / bare threads", "Call/zelto", "Call/bare", 1.5, "time"),
     ("idle engine's CPU / two bare threads", "Idle/zelto", "Idle/bare", 1.3, "time"),
@@ -37,6 +37,14 @@ ROWS = [
     ("page of ten of 50,000 contacts / multi_index", "ContactPage/zelto50000", "ContactPage/multi_index50000", 1.0, "time"),
     ("page of ten of 50,000 / of 100", "ContactPage/zelto50000", "ContactPage/zelto100", 1.5, "time"),
     ("presence change of 10,000 / multi_index", "PresenceChange/zelto10000", "PresenceChange/multi_index10000", 2.0, "time"),
+    ("refresh a history of 10,000 / multi_index", "RefreshHistory/zelto10000", "RefreshHistory/multi_index10000", 1.6, "time"),
+    ("an entry of 10,000 / of 1,000, refreshing", "RefreshHistory/zelto10000", "RefreshHistory/zelto1000", 1.3, "time"),
+    ("page of ten of 10,000 entries / multi_index", "HistoryPage/zelto10000", "HistoryPage/multi_index10000", 1.0, "time"),
+    ("history entry by time of 10,000 / multi_index", "HistoryByTime/zelto10000", "HistoryByTime/multi_index10000", 1.0, "time"),
+    ("open a chat of 10,000 messages / multi_index", "OpenChat/zelto10000", "OpenChat/multi_index10000", 1.6, "time"),
+    ("open a chat of 10,000 / of 1,000", "OpenChat/zelto10000", "OpenChat/zelto1000", 13.0, "time"),
+    ("page of ten of 10,000 messages / multi_index", "ChatPage/zelto10000", "ChatPage/multi_index10000", 1.0, "time"),
+    ("page of ten of 10,000 / of 1,000", "ChatPage/zelto10000", "ChatPage/zelto1000", 1.5, "time"),
 ]
 
 # Limits that need no peer: what, benchmark, counter, limit.

@@ -9,11 +9,15 @@
 #include "simulator/runtime/service/DeviceStore.h"
 #include "simulator/runtime/service/Service.h"
 #include "simulator/runtime/world/Calls.h"
+#include "simulator/runtime/world/Chats.h"
 #include "simulator/runtime/world/Contacts.h"
+#include "simulator/runtime/world/PastCalls.h"
 #include "simulator/runtime/world/PresenceChanges.h"
 #include "simulator/runtime/world/Scheduler.h"
+#include "simulator/runtime/world/Searches.h"
 #include "simulator/runtime/world/ServerCommit.h"
 #include "simulator/runtime/world/SignIn.h"
+#include "simulator/runtime/world/Voicemails.h"
 #include "simulator/runtime/world/World.h"
 
 namespace simulator {
@@ -45,8 +49,21 @@ struct Session {
         commit(world, signIn, service, scheduler),
         calls({world, contacts, scheduler, surroundings.outbox, surroundings.media,
                surroundings.clockDifference, surroundings.strike},
-              [this] { return !signIn.Name().empty(); }) {
-    signIn.WhenOver([this] { calls.EndAll(); });
+              [this] { return !signIn.Name().empty(); }),
+        chats(world, contacts, service, scheduler, signIn, surroundings.clockDifference),
+        pastCalls(world, contacts, service, signIn),
+        voicemails({world, contacts, service, scheduler, signIn, surroundings.media,
+                    surroundings.clockDifference,
+                    [this] {
+                      const CallCourse* course = calls.Current();
+                      return course != nullptr && course->Sounds();
+                    }}),
+        searches(world, scheduler) {
+    calls.WhenOver([this](const CallCourse& course) { pastCalls.Keep(course); });
+    signIn.WhenOver([this] {
+      calls.EndAll();
+      voicemails.StopPlaying();
+    });
   }
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
@@ -61,6 +78,10 @@ struct Session {
   SignIn signIn;
   ServerCommit commit;
   Calls calls;
+  Chats chats;
+  PastCalls pastCalls;
+  Voicemails voicemails;
+  Searches searches;
   bool started = false;
 };
 

@@ -156,6 +156,15 @@ void ContactList::Place(const CContactInfo* entry) {
   Link(Placed(Own(entry)));
 }
 
+void ContactList::Remove(const CContactInfo* entry) {
+  CContactInfo* own = Own(entry);
+  Unlink({own->m_place.key, own});
+  for (const int property : kNames) DropName(own, property);
+  --m_count;
+  --m_NumContact[static_cast<std::size_t>(own->m_nCategory)];
+  delete own;
+}
+
 void ContactList::Sort() {
   if (m_order.size() == 1) {  // no need of a second place for the items
     Chunk& items = m_order.front();

@@ -45,6 +45,8 @@ class ContactList {
   void SetCategory(const CContactInfo* entry, int category);
   // Moves one entry where its category and name say.
   void Place(const CContactInfo* entry);
+  // Takes an entry of this list out and frees it.
+  void Remove(const CContactInfo* entry);
   // Moves all.
   void Sort();
   void Clear();

@@ -34,6 +34,18 @@ inline constexpr int kExtraContactProperties[] = {Contact::P_4,
                                                   Contact::P_ASSIGNED_PHONE3_LABEL};
 static_assert(sizeof kExtraContactProperties == 18 * sizeof(int));
 
+// What is fetched for every person that a search has found, and beside it for one whose profile is wanted.
+inline constexpr int kSearchedContactProperties[] = {Contact::P_IDENTITY, Contact::P_4, Contact::P_COUNTRY,
+                                                     Contact::P_10, Contact::P_LANGUAGE};
+inline constexpr int kProfileProperties[] = {Contact::P_33, Contact::P_AVATAR};
+
+// The fields of the records of people found and of a profile.
+inline constexpr int kSearchedContactRecord[] = {Contact::P_IDENTITY, Contact::P_4, Contact::P_COUNTRY,
+                                                 Contact::P_10};
+inline constexpr int kProfileRecord[] = {Contact::P_IDENTITY, Contact::P_4,        Contact::P_COUNTRY,
+                                         Contact::P_10,       Contact::P_LANGUAGE, Contact::P_33,
+                                         Contact::P_AVATAR};
+
 // The fields of a contact's record, in their order.
 inline constexpr int kContactRecord[] = {Contact::P_IDENTITY,
                                          Contact::P_PHONE_NUMBER,

@@ -9,10 +9,12 @@
 #include "Common/ZeltoManager.h"
 #include "apiwrapper/ZEReply.h"
 #include "zelhost/ContactPicture.h"
+#include "zelhost/PropertyList.h"
 #include "zelhost/ServiceHostMutex.h"
 #include "zelhost/ZelhostAccountManager.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
 
+using zelhost::ListOf;
 using zelhost::ServiceHostLock;
 
 namespace {
@@ -36,13 +38,6 @@ const NewContact* FindNewContact(int kind) {
     if (row.kind == kind) return &row;
   }
   return nullptr;
-}
-
-template <class Properties>
-ZEIntList ListOf(const Properties& properties) {
-  ZEIntList list;
-  for (const int property : properties) list.append(property);
-  return list;
 }
 
 ZEString KeyOf(const ZEIntDict& values) {
@@ -202,4 +197,5 @@ void CZelhostContactManager::Sort() {
 void CZelhostContactManager::ClearContactList() {
   ServiceHostLock lock("ClearContactList");
   m_ContactList.Clear();
+  m_SearchedContactList.clear();
 }

@@ -1,19 +1,22 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "Common/ContactManagerImp.h"
 #include "apiwrapper/ContactGroup.h"
+#include "apiwrapper/ZEPtrVector.h"
 #include "zelhost/ContactList.h"
 #include "zelhost/ManagerInstance.h"
 
 // The contact list of the signed-in account, as the engine keeps it for the widget: built from two of the
 // runtime's groups, ordered by category and name, kept current by what the runtime reports. Questions are
-// answered without asking the runtime, except for the first one about a less common property. Operations that
-// change the runtime's list are not there yet and are refused.
-// Without a ready runtime and somebody signed in, questions are answered null, 0, false or -1.
+// answered without asking the runtime, except for the first one about a less common property. Operations
+// change the runtime's list, and the engine's with it; searches look for people in the service's directory.
+// Without a ready runtime and somebody signed in, questions are answered null, 0, false or -1, and operations
+// do nothing and answer false; so they do for a contact that the runtime does not know.
 // Texts that are answered stay valid until the next question of the same kind: about single values, about
 // pictures, or about records.
 // Threads: any; every operation takes the service-host mutex.
@@ -31,7 +34,7 @@ class CZelhostContactManager : public CContactManagerImp {
   bool GetContactListInGroup(ContactGroup::TYPE type);
   // Brings the whole list in order.
   void Sort();
-  // Empties the list; part of every sign-in and sign-out.
+  // Empties the list and what the last search found; part of every sign-in and sign-out.
   void ClearContactList();
   // Adds an entry, also when the contact has one already, and tells the widget. One without identity and
   // phone number is skipped.
@@ -43,6 +46,11 @@ class CZelhostContactManager : public CContactManagerImp {
   // Fetches what is missing of the extra properties; the entry stays as it is when the runtime does not know
   // its identity.
   void GetContactInfoMore(const CContactInfo* entry);
+  // Takes over what a search has found, in place of what the one before had, and tells the widget. Slots of
+  // Contact, whose property caches are filled. False when nobody was found.
+  bool SetSearchedContact(const ZEPtrVector& results);
+  // The same for the profile of the first one; when nobody was found, the profile before stays.
+  bool SetSearchedContactProfile(const ZEPtrVector& results);
   // Whether the runtime is ready and somebody is signed in or signing in.
   static bool IsContactInfoAvailable();
 
@@ -60,24 +68,36 @@ class CZelhostContactManager : public CContactManagerImp {
   const char* GetContactListWithoutCallMemberAndUnauthorizedContacts(int start, int num) override;
   int GetNumOfContactsWithoutUnauthorizedContacts() override;
 
+  // Also true for a contact that is not listed, of which the widget hears nothing.
   bool Remove(const char* identity) override;
+  // What changes in the list follows from the runtime's report.
   bool Block(const char* identity, bool remove) override;
   bool Unblock(const char* identity) override;
   bool IsBlocked(const char* identity) override;
+  // Identity or phone number, empty for a contact without both; null outside the group.
   const char* GetBlockedContact(int index) override;
   const char* GetBlockedContactList() override;
+  // Asks the contact for its consent, with a greeting when there is no message. True also when the request
+  // could not be sent, which leaves the list as it is.
   bool AddContact(const char* identity, const char* message) override;
   bool AddZeltoOutContact(const char* number, const char* displayName) override;
+  // Rejecting blocks or removes the contact without telling the widget, which asked for it.
   bool Authorize(const char* identity, bool reject, bool block) override;
 
   int GetIndexOfContact(const char* name) override;
   bool IsMyBuddy(const char* identity) override;
 
+  // Searches end asynchronously, each with one event; they need a connected runtime only.
   bool SearchNewContact(const char* text) override;
+  // True without looking whether the runtime could start it.
   bool SearchContactProfile(const char* identity) override;
+  // Empty when nobody was found; does not need anybody signed in.
   const char* GetSearchedContactList() override;
+  // The name plays no part. Null when no profile was ever found.
   const char* GetProfileInfo(const char* name) override;
 
+  // Both false when the contact is not listed; the runtime has been told by then. An empty name gives way to
+  // the contact's identity.
   bool Rename(const char* identity, const char* displayName) override;
   bool SetAssignedPhoneNumber(const char* identity, unsigned int slot, const char* type,
                               const char* number) override;
@@ -90,6 +110,8 @@ class CZelhostContactManager : public CContactManagerImp {
   bool SetCallee(const char* name) override;
   const char* GetCallee() override;
 
+  // The identity of the first whose addresses contain the text; null for an empty text. The first call, and
+  // any after new entries have come, asks the runtime for their addresses.
   const char* FindContactWithEmail(const char* text) override;
   const char* GetContactImage(const char* name) override;
   int GetContactStatus(const char* name) override;
@@ -124,6 +146,14 @@ class CZelhostContactManager : public CContactManagerImp {
 
   void TakeContact(Contact* contact);
 
+  // Null, with a line in the log, when the runtime does not know the contact.
+  static Contact* KnownContact(const char* operation, const char* identity);
+  // Fetches properties of a hardwired group's members into their caches; false without the group.
+  static bool FetchMembers(ContactGroup::TYPE type, const ZEIntList& properties, ZEPtrVector& members);
+  void ShowChanged(const CContactInfo* entry);
+  void FetchEmails();
+  void TakeEmails(ContactGroup::TYPE type);
+
   static const Update* FindUpdate(int property);
   void Keep(const Change& change);
   void OnLanguage(const Change& change);
@@ -136,8 +166,10 @@ class CZelhostContactManager : public CContactManagerImp {
   static inline zelhost::ManagerInstance<CZelhostContactManager> m_instance;
 
   ContactList m_ContactList;
-  bool m_bUnblocking = false;  // an unblock or authorization change of the user's is under way
-  std::string m_strRejectedContact;
+  std::vector<std::unique_ptr<CContactInfo>> m_SearchedContactList;
+  std::unique_ptr<CContactInfo> m_pSearchedProfile;  // of the last profile search that found somebody
+  bool m_bUnblocking = false;        // an unblock or authorization change of the user's is under way
+  std::string m_strRejectedContact;  // whose removal or block the widget must not hear of
   std::string m_strOnlinedContact;
   std::string m_strStateChangedContact;
   std::string m_strResult;

@@ -44,6 +44,11 @@ class AListUnderRandomChanges : public testing::Test {
 
   void Change() {
     Row& row = AnyRow();
+    if (Number(10) == 0) {
+      m_list.Remove(row.entry);
+      m_rows.erase(m_rows.begin() + (&row - m_rows.data()));
+      return;
+    }
     const int kind = Number(4);
     if (kind == 0) {
       row.identity = Number(9) == 0 ? "" : "id" + std::to_string(Number(4000));

@@ -48,16 +48,6 @@ Object& ContactOf(Session& session, const json& order, const char* key) {
   return *contact;
 }
 
-int NumberOf(const json& order, const char* key, int least, int most) {
-  const auto value = order.find(key);
-  if (value == order.end() || !value->is_number_integer()) Refuse(std::string(key) + " is no number");
-  const auto number = value->get<std::int64_t>();
-  if (number < least || number > most) {
-    Refuse(std::string(key) + " is not from " + std::to_string(least) + " to " + std::to_string(most));
-  }
-  return static_cast<int>(number);
-}
-
 int AvailabilityOf(const json& order) {
   if (order["availability"].is_number()) return NumberOf(order, "availability", 1, 18);
   return Choose(kAvailabilities, TextOf(order, "availability")).availability;
@@ -111,6 +101,17 @@ void RequestAuthorization(Controls& controls, const json& order, json& answer) {
   if (session.signIn.Name().empty()) Refuse("nobody is signed in");
   if (!session.contacts.Request(contact)) Refuse("the contact is authorized or blocked already");
   answer["object"] = contact.id;
+}
+
+void AnswerAuthorization(Controls& controls, const json& order, json& answer) {
+  Session& session = SessionOf(controls);
+  Object& contact = ContactOf(session, order, "from");
+  if (session.signIn.Name().empty()) Refuse("nobody is signed in");
+  const std::string word = TextOf(order, "answer");
+  if (word != "yes" && word != "no") Refuse("the answer is yes or no");
+  session.contacts.Answer(contact, word == "yes");
+  answer["object"] = contact.id;
+  answer["asked"] = contact.GetText(contact::kAsked);
 }
 
 }  // namespace orders

@@ -1,6 +1,7 @@
 // What the orders have in common: reading their arguments, and refusing.
 #pragma once
 
+#include <cstdint>
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 #include <string>
@@ -21,6 +22,21 @@ inline std::string TextOf(const nlohmann::json& order, const char* key) {
 
 inline std::string TextOf(const nlohmann::json& order, const char* key, const std::string& otherwise) {
   return order.contains(key) ? TextOf(order, key) : otherwise;
+}
+
+// A whole number in that range; refuses anything else.
+inline int NumberOf(const nlohmann::json& order, const char* key, int least, int most) {
+  const auto value = order.find(key);
+  if (value == order.end() || !value->is_number_integer()) Refuse(std::string(key) + " is no number");
+  const auto number = value->get<std::int64_t>();
+  if (number < least || number > most) {
+    Refuse(std::string(key) + " is not from " + std::to_string(least) + " to " + std::to_string(most));
+  }
+  return static_cast<int>(number);
+}
+
+inline int NumberOf(const nlohmann::json& order, const char* key, int least, int most, int otherwise) {
+  return order.contains(key) ? NumberOf(order, key, least, most) : otherwise;
 }
 
 // The row of that name; refuses when there is none, telling which there are.

@@ -41,6 +41,16 @@ void ChangeContact(Controls& controls, const nlohmann::json& order, nlohmann::js
 void ChangePresence(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
 void InventContacts(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
 void RequestAuthorization(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void AnswerAuthorization(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+
+// What is said in chats, what has been, and how much of both there is.
+void OpenChat(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void Say(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void InventChats(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void InventMessages(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void LeaveVoicemail(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void InventHistory(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void DeleteElsewhere(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
 
 // What the far end of a call does.
 void Call(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);

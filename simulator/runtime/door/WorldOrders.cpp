@@ -1,4 +1,8 @@
 // Orders about the runtime's world.
+#include <algorithm>
+#include <functional>
+#include <vector>
+
 #include "apiwrapper/tables/Classes.h"
 #include "apiwrapper/tables/Events.h"
 #include "simulator/runtime/Wire.h"
@@ -13,23 +17,33 @@ namespace {
 
 using nlohmann::json;
 
-// The object of that class that was made last; null when there is none.
-Object* NewestOf(World& world, const std::string& className) {
-  unsigned newest = 0;
+// The object of that class before which so many newer ones were made; null when there is none.
+Object* ObjectBefore(World& world, const std::string& className, std::size_t newer) {
+  std::vector<unsigned> ids;
   for (const auto& [id, object] : world.Objects()) {
-    if (className == object.type->name && id > newest) newest = id;
+    if (className == object.type->name) ids.push_back(id);
   }
-  return world.Find(newest);
+  if (newer >= ids.size()) return nullptr;
+  std::sort(ids.begin(), ids.end(), std::greater<>());
+  return world.Find(ids[newer]);
 }
 
-// "account" is the account whose sign-in is under way or complete, a class's name its newest object,
-// anything else an object's id.
+// "account" is the account whose sign-in is under way or complete, a class's name its newest object, with
+// "~1" behind it the one before that, anything else an object's id.
 Object& ObjectOf(Controls& controls, const json& order) {
   Session& session = SessionOf(controls);
   const std::string name = TextOf(order, "object");
-  Object* object = name == "account"                                  ? session.signIn.Current()
-                   : ZEProtocol::ClassByName(name.c_str()) != nullptr ? NewestOf(session.world, name)
-                                                                      : session.world.Find(ToUnsigned(name));
+  const std::size_t mark = std::min(name.find('~'), name.size());
+  const std::string className = name.substr(0, mark);
+  Object* object = nullptr;
+  if (name == "account") {
+    object = session.signIn.Current();
+  } else if (ZEProtocol::ClassByName(className.c_str()) != nullptr) {
+    const std::size_t newer = mark < name.size() ? ToUnsigned(name.substr(mark + 1)) : 0;
+    object = ObjectBefore(session.world, className, newer);
+  } else {
+    object = session.world.Find(ToUnsigned(name));
+  }
   if (object == nullptr) Refuse("no object " + name);
   return *object;
 }

@@ -23,6 +23,7 @@ class Media : public MediaPort {
   void Detach();
 
   void BeginSound(FarSound sound) override { m_sound.Begin(sound); }
+  void PlayRecording(unsigned number) override { m_sound.Play(number); }
   void EndSound() override { m_sound.End(); }
   void ShowPicture(FarPicture picture) override { m_pictures.Show(picture); }
   int VoiceLevel() const override { return m_sound.VoiceLevel(); }

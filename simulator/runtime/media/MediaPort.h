@@ -1,4 +1,4 @@
-// What a call asks of the sound and pictures.
+// What calls and voicemails ask of the sound and pictures.
 #pragma once
 
 #include <cstdint>
@@ -27,6 +27,9 @@ class MediaPort {
 
   // Sound flows from now on: announces the beginning to the engine, then plays what is asked for.
   virtual void BeginSound(FarSound sound) = 0;
+  // The same for a recording: each number has a melody of its own, which goes on until another sound begins
+  // or the sound ends.
+  virtual void PlayRecording(unsigned number) = 0;
   virtual void EndSound() = 0;
   // The far end's picture begins, with the record of the frames' shape, or changes; None ends it.
   virtual void ShowPicture(FarPicture picture) = 0;

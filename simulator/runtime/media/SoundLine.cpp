@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <string>
 
 #include "Common/Platform.h"
@@ -36,13 +37,39 @@ static_assert(kTonePackets * static_cast<int>(kSamples) * kFrequency % kRate == 
 
 using ToneTurn = std::array<std::int16_t, kTonePackets * kSamples>;
 
-ToneTurn MakeTone() {
+// A melody's notes. They hold whole waves in one packet, too.
+constexpr int kNotes[] = {300, 400, 500, 600, 800, 900, 1000, 1200};
+constexpr int kNoteCount = static_cast<int>(std::size(kNotes));
+constexpr int kNotePackets = 20;
+constexpr int kMelodyNotes = 8;
+constexpr int kMelodyPackets = kMelodyNotes * kNotePackets;
+
+using Note = std::array<std::int16_t, kSamples>;
+
+template <std::size_t N>
+void FillWave(std::array<std::int16_t, N>& samples, int frequency) {
   constexpr double kTurn = 6.283185307179586;
-  ToneTurn turn{};
-  for (std::size_t i = 0; i < turn.size(); ++i) {
-    const double phase = kTurn * kFrequency * static_cast<double>(i) / kRate;
-    turn[i] = static_cast<std::int16_t>(std::lround(kAmplitude * std::sin(phase)));
+  for (std::size_t i = 0; i < samples.size(); ++i) {
+    const double phase = kTurn * frequency * static_cast<double>(i) / kRate;
+    samples[i] = static_cast<std::int16_t>(std::lround(kAmplitude * std::sin(phase)));
   }
+}
+
+std::array<Note, kNoteCount> MakeNotes() {
+  std::array<Note, kNoteCount> notes{};
+  for (int note = 0; note < kNoteCount; ++note) FillWave(notes[static_cast<std::size_t>(note)], kNotes[note]);
+  return notes;
+}
+
+// Begins with another note for each number, and goes on in steps of its own.
+std::size_t NoteAt(unsigned recording, int position) {
+  const unsigned step = 1 + recording % 7;
+  return (recording + static_cast<unsigned>(position) * step) % kNoteCount;
+}
+
+ToneTurn MakeTone() {
+  ToneTurn turn{};
+  FillWave(turn, kFrequency);
   return turn;
 }
 
@@ -79,7 +106,20 @@ void SoundLine::Stop() {
 
 void SoundLine::Begin(FarSound sound) {
   Send(packet::kSoundBegins, nullptr, 0);
+  if (m_recording) {
+    SwitchTo(FarSound::None);
+    m_recording.reset();
+    m_tonePacket = 0;
+  }
   SwitchTo(sound);
+}
+
+void SoundLine::Play(unsigned recording) {
+  Send(packet::kSoundBegins, nullptr, 0);
+  SwitchTo(FarSound::None);
+  m_recording = recording;
+  m_tonePacket = 0;
+  SwitchTo(FarSound::Tone);
 }
 
 void SoundLine::End() {
@@ -142,7 +182,18 @@ bool SoundLine::Configure(const unsigned char* payload, std::size_t size) {
   return true;
 }
 
+void SoundLine::PlayMelody() {
+  static const std::array<Note, kNoteCount> notes = MakeNotes();
+  const Note& note = notes[NoteAt(*m_recording, m_tonePacket / kNotePackets)];
+  m_sender.Push(packet::kMedia, note.data(), packet::kSoundSize, kMostTone);
+  m_tonePacket = (m_tonePacket + 1) % kMelodyPackets;
+}
+
 void SoundLine::PlayTone() {
+  if (m_recording) {
+    PlayMelody();
+    return;
+  }
   static const ToneTurn turn = MakeTone();
   m_sender.Push(packet::kMedia, turn.data() + static_cast<std::size_t>(m_tonePacket) * kSamples,
                 packet::kSoundSize, kMostTone);

@@ -33,6 +33,8 @@ class SoundLine {
   void Stop();
 
   void Begin(FarSound sound);
+  // A recording's melody.
+  void Play(unsigned recording);
   void End();
   // Also what nobody but a test sends.
   void Send(std::uint32_t type, const void* payload, std::size_t size);
@@ -49,12 +51,15 @@ class SoundLine {
   bool Hear(const unsigned char* payload, std::size_t size);
   bool Configure(const unsigned char* payload, std::size_t size);
   void PlayTone();
+  void PlayMelody();
   void SwitchTo(FarSound sound);
 
   std::atomic<std::uint64_t> m_received{0};
   std::atomic<int> m_level{0};
   std::atomic<std::int64_t> m_heard{0};  // when, on the platform's clock
-  int m_tonePacket = 0;                  // the next one of a full turn; the pacer's
+  // The pacer's while it runs.
+  int m_tonePacket = 0;                 // the next one of a tone's full turn, or of the melody
+  std::optional<unsigned> m_recording;  // played in place of the tone
 
   // Also held while an echo is queued, so that none comes behind the end.
   mutable zelto::Mutex m_lock{zelto::LockRank::Queue, "far sound"};

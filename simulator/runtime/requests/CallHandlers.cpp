@@ -49,7 +49,10 @@ void Assimilate(Session& session, Exchange& exchange) {
 }
 
 void GetMembers(Session& session, Exchange& exchange) {
-  std::vector<unsigned> ids;
+  // One that is over and gone has other objects.
+  std::vector<unsigned> ids = session.calls.Find(exchange.Target().id) == nullptr
+                                  ? session.pastCalls.Members(exchange.Target().id)
+                                  : std::vector<unsigned>();
   InCall(session, exchange, [&](CallCourse& course) {
     for (const auto& member : course.Members()) ids.push_back(member->Id());
   });
@@ -82,9 +85,13 @@ void PlayAndSendDTMF(Session& session, Exchange& exchange) {
 template <int kUnseen>
 void Mark(Session& session, Exchange& exchange) {
   session.world.SetInt(exchange.Target(), call::kUnseen, kUnseen);
+  session.pastCalls.SetUnseen(exchange.Target().id, kUnseen != 0);
 }
 
-void DeleteCall(Session& session, Exchange& exchange) { session.calls.Forget(exchange.Target().id); }
+void DeleteCall(Session& session, Exchange& exchange) {
+  const unsigned id = exchange.Target().id;
+  if (!session.pastCalls.Delete(id)) session.calls.Forget(id);
+}
 
 // Members.
 

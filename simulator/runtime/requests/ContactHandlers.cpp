@@ -10,7 +10,7 @@ namespace simulator {
 namespace {
 
 constexpr int kCanBeCalled = 1;            // of the contact capabilities
-constexpr std::size_t kLongestText = 300;  // of a name or number that the user gives
+constexpr std::size_t kLongestText = 300;  // of a name, number or request that the user gives
 
 // The object that an argument names, if it is of that class.
 Object* Argument(Session& session, const Exchange& exchange, const char* key, const ZEClass& type) {
@@ -142,9 +142,11 @@ void SetBuddyStatus(Session& session, Exchange& exchange) {
   exchange.Answer(ZEKey::Result, 1);
 }
 
-// Telephones cannot be asked. People of the service say yes at once; a name that nobody has never answers.
-void SendAuthRequest(Session&, Exchange& exchange) {
-  exchange.Answer(ZEKey::Result, !Contacts::IsPhone(exchange.Target()));
+// People of the service say yes at once unless an order says otherwise; a name that nobody has never answers.
+void SendAuthRequest(Session& session, Exchange& exchange) {
+  const std::string words = exchange.Text(ZEKey::Message);
+  exchange.Answer(ZEKey::Result,
+                  words.size() <= kLongestText && session.contacts.Ask(exchange.Target(), words));
 }
 
 void HasCapability(Session& session, Exchange& exchange) {

@@ -52,6 +52,13 @@ std::vector<unsigned> Exchange::Ids(const char* key) const {
   return ids;
 }
 
+std::vector<std::string> Exchange::Texts(const char* key) const {
+  std::vector<std::string> texts;
+  const std::string list = Text(key);
+  for (const auto piece : SplitList(list)) texts.push_back(Unescape(piece));
+  return texts;
+}
+
 void Exchange::Answer(const char* key, std::string_view text) { m_writer.Text(key, text); }
 
 void Exchange::Answer(const char* key, long long number) {

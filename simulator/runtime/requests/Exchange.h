@@ -35,6 +35,7 @@ class Exchange {
   int Enumerator(const char* key) const;
   // The ids of a list of objects.
   std::vector<unsigned> Ids(const char* key) const;
+  std::vector<std::string> Texts(const char* key) const;
 
   void Answer(const char* key, std::string_view text);
   void Answer(const char* key, const char* text) { Answer(key, std::string_view(text)); }

@@ -35,6 +35,8 @@ HandlerRows AccountHandlers();  // accounts, signing in and out
 HandlerRows ContactHandlers();  // contacts and their groups
 HandlerRows CallHandlers();     // calls, their members and pictures
 HandlerRows NameHandlers();     // names and codes of countries and languages
-HandlerRows SearchHandlers();   // searches, and lists of what there is nothing of yet
+HandlerRows ChatHandlers();     // chats, their members and messages
+HandlerRows HistoryHandlers();  // calls that are over, voicemails
+HandlerRows SearchHandlers();   // the directory, and objects of all kinds
 
 }  // namespace simulator

@@ -111,16 +111,23 @@ std::string Database::Rows::Text(int column) const {
 
 std::int64_t Database::Rows::Number(int column) const { return sqlite3_column_int64(m_statement, column); }
 
-Database::Transaction::Transaction(Database& database) : m_database(database) {
+Database::Transaction::Transaction(Database& database)
+    : m_database(database), m_open(!database.m_inTransaction) {
+  if (!m_open) return;
   m_database.Execute("BEGIN IMMEDIATE");
+  m_database.m_inTransaction = true;
 }
 
 Database::Transaction::~Transaction() {
-  if (m_open) sqlite3_exec(m_database.m_database, "ROLLBACK", nullptr, nullptr, nullptr);
+  if (!m_open) return;
+  sqlite3_exec(m_database.m_database, "ROLLBACK", nullptr, nullptr, nullptr);
+  m_database.m_inTransaction = false;
 }
 
 void Database::Transaction::Commit() {
+  if (!m_open) return;
   m_database.Execute("COMMIT");
+  m_database.m_inTransaction = false;
   m_open = false;
 }
 

@@ -58,7 +58,8 @@ class Database {
   // Answers the number of rows that were changed.
   int Run(const char* sql, std::initializer_list<Argument> arguments = {});
 
-  // All or nothing: what was run since Begin() is undone unless Commit() is reached.
+  // All or nothing: what was run since its beginning is undone unless Commit() is reached. One inside another
+  // is part of it.
   class Transaction {
    public:
     explicit Transaction(Database& database);
@@ -69,7 +70,7 @@ class Database {
 
    private:
     Database& m_database;
-    bool m_open = true;
+    bool m_open;
   };
 
  private:
@@ -80,6 +81,7 @@ class Database {
   [[noreturn]] void Fail(const char* what) const;
 
   sqlite3* m_database = nullptr;
+  bool m_inTransaction = false;
   std::map<std::string, sqlite3_stmt*, std::less<>> m_statements;
 };
 

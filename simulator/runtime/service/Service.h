@@ -2,11 +2,15 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "simulator/runtime/service/ChatService.h"
+#include "simulator/runtime/service/Conditions.h"
+#include "simulator/runtime/service/HistoryService.h"
 #include "simulator/runtime/service/LogoutReasons.h"
 #include "simulator/runtime/world/World.h"
 
@@ -38,11 +42,9 @@ struct Capability {
 
 // All operations answer at once; a service that has to wait gets its own thread behind them.
 // Threads: called by the event loop's only thread.
-class Service {
+class Service : public ChatService, public HistoryService {
  public:
   using Properties = std::map<int, Value>;  // by their number, of an account where nothing else is said
-
-  virtual ~Service() = default;
 
   virtual bool Exists(std::string_view name) = 0;
   // LogoutReason::None when the password opens the account.
@@ -90,6 +92,14 @@ class Service {
   virtual bool RenameGroup(std::string_view name, std::int64_t group, std::string_view to) = 0;
   virtual bool DeleteGroup(std::string_view name, std::int64_t group) = 0;
   virtual void SetGroupMember(std::int64_t group, std::string_view contact, bool member) = 0;
+
+  // The directory: names of accounts for which the query holds, at most so many, in the order of the names.
+  // Its properties are those of a profile up to kLastSearchable, and the name.
+  static constexpr int kLastSearchable = 13;
+  virtual std::vector<std::string> FindPeople(const Query& query, std::size_t most) = 0;
+
+  // Makes many changes fast: all or nothing, stored when this returns.
+  virtual void Together(const std::function<void()>& changes) = 0;
 };
 
 }  // namespace simulator

@@ -33,6 +33,33 @@ constexpr char kNotesAndGroups[] =
     "CREATE TABLE contact_group_members (number INTEGER NOT NULL REFERENCES contact_groups ON DELETE CASCADE,"
     " contact TEXT NOT NULL, PRIMARY KEY (number, contact)) WITHOUT ROWID;";
 
+constexpr char kChatsAndHistory[] =
+    "CREATE TABLE chats (number INTEGER PRIMARY KEY AUTOINCREMENT,"
+    " account TEXT NOT NULL REFERENCES accounts ON DELETE CASCADE, type INTEGER NOT NULL,"
+    " partner TEXT NOT NULL, topic TEXT NOT NULL, created INTEGER NOT NULL, active INTEGER NOT NULL,"
+    " gone INTEGER NOT NULL, bookmarked INTEGER NOT NULL);"
+    "CREATE INDEX chats_of ON chats (account);"
+    "CREATE TABLE chat_people (chat INTEGER NOT NULL REFERENCES chats ON DELETE CASCADE,"
+    " identity TEXT NOT NULL, member INTEGER NOT NULL, posted INTEGER NOT NULL,"
+    " PRIMARY KEY (chat, identity)) WITHOUT ROWID;"
+    "CREATE TABLE messages (number INTEGER PRIMARY KEY AUTOINCREMENT,"
+    " chat INTEGER NOT NULL REFERENCES chats ON DELETE CASCADE, type INTEGER NOT NULL,"
+    " author TEXT NOT NULL, at INTEGER NOT NULL, body TEXT NOT NULL, status INTEGER NOT NULL,"
+    " contacts TEXT NOT NULL);"
+    "CREATE INDEX messages_in ON messages (chat, status);"
+    "CREATE TABLE past_calls (number INTEGER PRIMARY KEY AUTOINCREMENT,"
+    " account TEXT NOT NULL REFERENCES accounts ON DELETE CASCADE, started INTEGER NOT NULL,"
+    " duration INTEGER NOT NULL, incoming INTEGER NOT NULL, conference INTEGER NOT NULL,"
+    " unseen INTEGER NOT NULL);"
+    "CREATE INDEX past_calls_of ON past_calls (account);"
+    "CREATE TABLE past_call_parties (call INTEGER NOT NULL REFERENCES past_calls ON DELETE CASCADE,"
+    " place INTEGER NOT NULL, identity TEXT NOT NULL, name TEXT NOT NULL, type INTEGER NOT NULL,"
+    " status INTEGER NOT NULL, PRIMARY KEY (call, place)) WITHOUT ROWID;"
+    "CREATE TABLE voicemails (number INTEGER PRIMARY KEY AUTOINCREMENT,"
+    " account TEXT NOT NULL REFERENCES accounts ON DELETE CASCADE, partner TEXT NOT NULL,"
+    " at INTEGER NOT NULL, duration INTEGER NOT NULL, status INTEGER NOT NULL);"
+    "CREATE INDEX voicemails_of ON voicemails (account);";
+
 constexpr std::int64_t kSecondsPerDay = 24 * 60 * 60;
 constexpr std::size_t kSuggestions = 3;
 
@@ -41,8 +68,19 @@ std::int64_t Now() { return std::time(nullptr); }
 }  // namespace
 
 SimulatedService::SimulatedService(const std::string& folder)
-    : m_database(folder + "/service.db", {kSchema, kNotesAndGroups}) {
+    : m_database(folder + "/service.db", {kSchema, kNotesAndGroups, kChatsAndHistory}) {
   AddDemoAccounts();
+}
+
+void SimulatedService::Together(const std::function<void()>& changes) {
+  Database::Transaction transaction(m_database);
+  changes();
+  transaction.Commit();
+}
+
+std::int64_t SimulatedService::LastNumber() {
+  auto rows = m_database.Ask("SELECT last_insert_rowid()");
+  return rows.Next() ? rows.Number(0) : 0;
 }
 
 void SimulatedService::AddDemoAccounts() {

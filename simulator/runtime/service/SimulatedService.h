@@ -39,6 +39,28 @@ class SimulatedService : public Service {
   bool RenameGroup(std::string_view name, std::int64_t group, std::string_view to) override;
   bool DeleteGroup(std::string_view name, std::int64_t group) override;
   void SetGroupMember(std::int64_t group, std::string_view contact, bool member) override;
+  std::vector<std::string> FindPeople(const Query& query, std::size_t most) override;
+  void Together(const std::function<void()>& changes) override;
+
+  std::vector<ChatRecord> Chats(std::string_view account) override;
+  std::int64_t AddChat(std::string_view account, const ChatRecord& chat) override;
+  void ChangeChat(const ChatRecord& chat) override;
+  void ChangeChatPerson(std::int64_t chat, const ChatPerson& person) override;
+  void DeleteChat(std::int64_t chat) override;
+  std::vector<MessageRecord> Messages(std::int64_t chat, std::size_t most) override;
+  std::int64_t AddMessage(std::int64_t chat, const MessageRecord& message) override;
+  void ChangeMessageStatus(std::int64_t message, int status) override;
+  void ChangeMessageBody(std::int64_t message, std::string_view body) override;
+  void DeleteMessages(std::int64_t chat) override;
+
+  std::vector<CallRecord> PastCalls(std::string_view account) override;
+  std::int64_t AddPastCall(std::string_view account, const CallRecord& call) override;
+  void SetPastCallUnseen(std::int64_t call, bool unseen) override;
+  void DeletePastCall(std::int64_t call) override;
+  std::vector<VoicemailRecord> Voicemails(std::string_view account) override;
+  std::int64_t AddVoicemail(std::string_view account, const VoicemailRecord& voicemail) override;
+  void ChangeVoicemailStatus(std::int64_t voicemail, int status) override;
+  void DeleteVoicemail(std::int64_t voicemail) override;
 
  private:
   void AddDemoAccounts();
@@ -47,6 +69,7 @@ class SimulatedService : public Service {
   void Create(const Registration& registration, const Properties& profile);
   void StoreValues(std::string_view name, const Properties& values);
   std::string PasswordOf(std::string_view name);
+  std::int64_t LastNumber();
 
   Database m_database;
 };

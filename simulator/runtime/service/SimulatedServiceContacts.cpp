@@ -179,8 +179,7 @@ std::vector<Service::Group> SimulatedService::Groups(std::string_view name) {
 
 std::int64_t SimulatedService::CreateGroup(std::string_view name) {
   m_database.Run("INSERT INTO contact_groups (account, name) VALUES (?, '')", {name});
-  auto rows = m_database.Ask("SELECT last_insert_rowid()");
-  return rows.Next() ? rows.Number(0) : 0;
+  return LastNumber();
 }
 
 bool SimulatedService::RenameGroup(std::string_view name, std::int64_t group, std::string_view to) {

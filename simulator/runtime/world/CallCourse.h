@@ -43,6 +43,8 @@ class CallCourse {
   unsigned Id() const { return m_id; }
   bool HasBegun() const { return m_phase != Phase::New; }
   bool IsOver() const { return m_phase == Phase::Over; }
+  // Whether sound flows.
+  bool Sounds() const { return m_sounds; }
   const std::vector<std::unique_ptr<CallMember>>& Members() const { return m_members; }
   CallMember* Member(unsigned id) const;
   CallVideo* Video(unsigned id) const;

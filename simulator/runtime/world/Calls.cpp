@@ -97,6 +97,7 @@ void Calls::EndAll() {
 
 void Calls::CallIsOver(CallCourse& course) {
   m_context.scheduler.After(kForgetMilliseconds, [this, id = course.Id()] { Forget(id); });
+  if (m_over) m_over(course);
   const auto attempts = m_callsBack.find(course.Id());
   if (attempts == m_callsBack.end()) return;
   const CallMember& caller = *course.Members().front();

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "simulator/runtime/world/CallContext.h"
@@ -46,6 +47,9 @@ class Calls : private CallObserver {
 
   // Forgets a call that is over at once; false for any other.
   bool Forget(unsigned id);
+  // Told of every call that has ended, its objects being there for a while.
+  void WhenOver(std::function<void(const CallCourse&)> over) { m_over = std::move(over); }
+
   // Ends every call, as when the account signs out.
   void EndAll();
 
@@ -58,6 +62,7 @@ class Calls : private CallObserver {
   const std::function<bool()> m_signedIn;
   std::vector<std::unique_ptr<CallCourse>> m_calls;
   std::map<unsigned, int> m_callsBack;  // attempts left, by the call
+  std::function<void(const CallCourse&)> m_over;
 };
 
 }  // namespace simulator

@@ -58,6 +58,12 @@ void Contacts::SetSpeedDial(Object& contact, const std::string& keys) {
   Note(contact, contact::kSpeedDial, keys);
 }
 
+bool Contacts::Ask(Object& contact, const std::string& words) {
+  if (IsPhone(contact)) return false;
+  Note(contact, contact::kAsked, words);
+  return true;
+}
+
 void Contacts::RefreshProfile(Object& contact) {
   if (IsPhone(contact)) return;
   FillProfile(contact, true);
@@ -74,6 +80,11 @@ bool Contacts::Request(Object& contact) {
   Note(contact, contact::kRequested, std::to_string(std::time(nullptr)));
   Settle(contact);
   return true;
+}
+
+void Contacts::Answer(Object& contact, bool yes) {
+  Note(contact, contact::kAnswer, yes ? "1" : "0");
+  Settle(contact);
 }
 
 void Contacts::TakeIn(const std::vector<std::string>& identities) {

@@ -27,6 +27,9 @@ enum Property : int {
   // Kept with the contact, but no properties of the protocol: the engine cannot ask for them.
   kPresence = 1000,  // availability, whether the user may see it or not
   kSpeedDial = 1001,
+  kAnswer =
+      1002,  // to the user's request to be authorized: 1 yes, 0 no; empty for what people do by themselves
+  kAsked = 1003,  // with what words the user has asked
 };
 
 inline constexpr int kNumberSlots = 3;

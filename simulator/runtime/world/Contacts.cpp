@@ -47,6 +47,8 @@ bool Contacts::IsPhone(const Object& contact) {
 
 bool Contacts::HasAuthorizedMe(const Object& contact) const {
   const std::string& identity = IdentityOf(contact);
+  const std::string& answer = contact.GetText(contact::kAnswer);
+  if (!answer.empty()) return answer == "1";
   return IsPhone(contact) || IsMagicName(identity) || m_service.Exists(identity);
 }
 
@@ -75,6 +77,8 @@ void Contacts::Apply(Object& contact, bool listed, const Notes& notes) {
       {contact::kAuthLevel, {std::to_string(listed ? contact::kAuthorized : contact::kNotAuthorized)}},
       {contact::kGivenName, {}},
       {contact::kSpeedDial, {}},
+      {contact::kAnswer, {}},
+      {contact::kAsked, {}},
       {contact::kRequested, {"0"}}};
   for (int property = contact::kFirstNumber; property <= contact::kLastNumber; ++property)
     values[property] = {};

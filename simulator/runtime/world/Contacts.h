@@ -36,7 +36,8 @@ class Contacts {
   static const std::string& IdentityOf(const Object& contact);
   static bool IsPhone(const Object& contact);
   bool IsListed(const Object& contact) const { return m_listed.count(contact.id) != 0; }
-  // Whether the other side lets the account see it. People of the service do so with everybody.
+  // Whether the other side lets the account see it. People of the service do so with everybody unless they
+  // have answered otherwise.
   bool HasAuthorizedMe(const Object& contact) const;
 
   // What the user does.
@@ -48,11 +49,14 @@ class Contacts {
   bool DeleteGroup(Object& group);
   void SetNumber(Object& contact, int slot, const std::string& label, const std::string& number);
   void SetSpeedDial(Object& contact, const std::string& keys);
+  // Asks to be authorized; false for telephones, which cannot be asked.
+  bool Ask(Object& contact, const std::string& words);
 
   // What the other side does.
   void RefreshProfile(Object& contact);  // shows what the service now tells of it
   void SetPresence(Object& contact, int availability);
-  bool Request(Object& contact);  // asks to be authorized; false when it is already, or blocked
+  bool Request(Object& contact);           // asks to be authorized; false when it is already, or blocked
+  void Answer(Object& contact, bool yes);  // lets the account see it, or no longer
 
   // Contacts that have come into the list at the service, from elsewhere.
   void TakeIn(const std::vector<std::string>& identities);

@@ -123,6 +123,23 @@ bool CanBeReached(const Object* contact) {
   return availability != 0 && availability != contact::kPending && availability != contact::kOffline;
 }
 
+struct AnswerRow {
+  std::string_view name;
+  const char* before;  // what was said; null: nothing is answered
+  int times;
+};
+
+// clang-format off
+// Everybody else says that he has read it.
+constexpr AnswerRow kAnswers[] = {
+    {"sndtest",  "",              1},
+    {"busy",     "Later! About ", 1},
+    {"storm",    "",              200},
+    {"noanswer", nullptr,         0},
+};
+// clang-format on
+constexpr AnswerRow kOrdinaryAnswer = {"", "You wrote: ", 1};
+
 struct FailureRow {
   int number;
   int reason;
@@ -172,6 +189,15 @@ FarEnd FarEndOf(std::string_view identity, const Object* contact) {
 
 FarEnd VoicemailFarEnd() { return Does(kRecords); }
 FarEnd DeliveringFarEnd() { return Does(kDelivers); }
+
+ChatAnswer ChatAnswerOf(std::string_view identity, const Object* contact, const std::string& said) {
+  AnswerRow answer = kOrdinaryAnswer;
+  for (const AnswerRow& row : kAnswers) {
+    if (row.name == identity) answer = row;
+  }
+  if (answer.before == nullptr || (!IsMagicName(identity) && !CanBeReached(contact))) return {};
+  return {answer.before + said, answer.times};
+}
 
 CallFailure FailureOf(int number) {
   for (const FailureRow& row : kFailures) {

@@ -1,5 +1,5 @@
-// What happens when somebody is called: by name for those whose name stands for something, by presence for
-// the others.
+// What happens when somebody is called or written to: by name for those whose name stands for something, by
+// presence for the others.
 #pragma once
 
 #include <cstddef>
@@ -38,6 +38,13 @@ FarEnd FarEndOf(std::string_view identity, const Object* contact);
 // One that takes a voicemail at once, and one that delivers what was recorded.
 FarEnd VoicemailFarEnd();
 FarEnd DeliveringFarEnd();
+
+// What somebody answers in a chat to what was said there; `contact` may be null.
+struct ChatAnswer {
+  std::string text;
+  int times = 0;  // 0: nothing is answered
+};
+ChatAnswer ChatAnswerOf(std::string_view identity, const Object* contact, const std::string& said);
 
 // A failure's reason, of CALLMEMBER_FAILUREREASON_MAP, and its text, which begins with the number.
 struct CallFailure {

@@ -1,7 +1,10 @@
 #include "simulator/runtime/world/Scheduler.h"
 
 #include <algorithm>
+#include <exception>
 #include <utility>
+
+#include "simulator/runtime/Log.h"
 
 namespace simulator {
 
@@ -25,7 +28,12 @@ void Scheduler::RunUntil(std::int64_t milliseconds) {
     if (first->first.due > m_now || first->first.id > last) return;
     const Action action = std::move(first->second);
     m_actions.erase(first);
-    action();
+    try {
+      action();
+    } catch (const std::exception& failure) {
+      // A database that has gone: what was to happen does not, other things may.
+      Log(failure.what());
+    }
   }
 }
 

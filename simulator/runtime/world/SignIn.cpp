@@ -192,9 +192,9 @@ void SignIn::Reset() {
   m_scheduler.Cancel(m_pending);
   m_step = std::size(kSteps);
   m_account = 0;
+  if (m_over) m_over();
   m_name.clear();
   m_attempt = nullptr;
-  if (m_over) m_over();
   m_contacts.Forget();
 }
 

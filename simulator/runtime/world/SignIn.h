@@ -35,7 +35,7 @@ class SignIn {
   // Ends sign-in or session at once; false when there is neither.
   bool Drop(LogoutReason reason);
 
-  // Told when a sign-in or session is over, before anybody hears of its end.
+  // Told when a sign-in or session is over, before anybody hears of its end; the name is still known.
   void WhenOver(std::function<void()> over) { m_over = std::move(over); }
 
   // The account whose sign-in is under way or complete; null for none.

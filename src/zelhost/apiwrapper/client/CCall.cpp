@@ -5,6 +5,7 @@
 #include "zelhost/ZelhostCallManager.h"
 #include "zelhost/apiwrapper/client/CCallMember.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
+#include "zelhost/history/ZelhostHistoryManager.h"
 
 // What a changed property brings about.
 struct CCall::Reaction {
@@ -30,6 +31,7 @@ const CCall::Reaction* CCall::FindReaction(int property) {
 CCall::~CCall() {
   if (CZelto* root = client::RootOf(*this)) root->m_calls.Forget(this);
   if (CZelhostCallManager::m_pCall == this) CZelhostCallManager::GetInstance()->SetCallMembers(nullptr);
+  CZelhostHistoryManager::ForgetCall(this);
 }
 
 void CCall::OnDelete() {

@@ -11,7 +11,7 @@ class CCallMember;
 class CCall : public DescribedObject<Call, kTraceCall> {
  public:
   using DescribedObject::DescribedObject;
-  // Leaves the root's call list and the call manager.
+  // Leaves the root's call list, the call manager and the history.
   ~CCall() override;
 
   // The end of a call beside the list's first one deletes the object.

@@ -6,14 +6,10 @@
 #include "zelhost/ZelhostContactManager.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
 
-namespace {
-
-bool IsInGroup(CZelto& root, Contact* contact, ContactGroup::TYPE type) {
+bool CContactGroup::Holds(CZelto& root, TYPE type, Contact* contact) {
   ContactGroup* group = root.GetHardwiredContactGroup(type);
   return group != nullptr && contact->IsMemberOf(group);
 }
-
-}  // namespace
 
 int CContactGroup::Type() {
   if (m_type <= 0) m_type = GetProp(P_TYPE).toInt();
@@ -57,9 +53,9 @@ void CContactGroup::OnWaitingContact(Contact* contact, bool joined) {
   }
   CZelto* root = client::RootOf(*this);
   if (joined || root == nullptr) return;
-  if (IsInGroup(*root, contact, ZELTO_BUDDIES) || IsInGroup(*root, contact, ZELTOOUT_BUDDIES)) {
+  if (Holds(*root, ZELTO_BUDDIES, contact) || Holds(*root, ZELTOOUT_BUDDIES, contact)) {
     CZeltoManager::SendEvent(CZeltoManager::CONTACT_AUTHREQUEST_ADDED, static_cast<int>(contact->getOID()));
-  } else if (!IsInGroup(*root, contact, CONTACTS_BLOCKED_BY_ME)) {
+  } else if (!Holds(*root, CONTACTS_BLOCKED_BY_ME, contact)) {
     CZeltoManager::SendEvent(CZeltoManager::CONTACT_AUTHREQUEST_REMOVED, 0);
   }
 }

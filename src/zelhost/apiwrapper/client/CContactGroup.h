@@ -9,6 +9,8 @@
 class CContactGroup : public ClientObject<ContactGroup, kTraceContactGroup> {
  public:
   using ClientObject::ClientObject;
+  // Whether the contact is in that hardwired group; false without the group.
+  static bool Holds(CZelto& root, TYPE type, Contact* contact);
 
   void OnChange(int property, const ZEString& value) override;
   void OnGroupChanged(Contact* contact, bool joined) override;

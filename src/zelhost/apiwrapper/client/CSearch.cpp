@@ -1,7 +1,18 @@
 #include "zelhost/apiwrapper/client/CSearch.h"
 
+#include "apiwrapper/SearchTerm.h"
 #include "apiwrapper/ZEPtrVector.h"
+#include "apiwrapper/Zelto.h"
 #include "zelhost/history/ZelhostHistoryManager.h"
+
+CSearch* CSearch::Start(Zelto& root, TARGET kind) {
+  constexpr int kAll = -1;
+  auto* search = dynamic_cast<CSearch*>(root.SearchObjects(SearchTerm(kind), kAll));
+  if (search != nullptr) search->SetSearchType(kind);
+  return search;
+}
+
+CSearch::~CSearch() { CZelhostHistoryManager::ForgetSearch(this); }
 
 void CSearch::OnChange(int property, const ZEString& value) {
   client::TraceChange(*this, kTraceSearch, property, value);
@@ -12,11 +23,17 @@ void CSearch::OnChange(int property, const ZEString& value) {
       delete this;
       return;
     case STATUS_FAILED:
+      ReportFailure();
       delete this;
       return;
     default:
       return;
   }
+}
+
+void CSearch::OnDelete() {
+  ReportFailure();
+  ClientObject::OnDelete();
 }
 
 void CSearch::DeliverResults() {
@@ -25,3 +42,5 @@ void CSearch::DeliverResults() {
   CZelhostHistoryManager::GetInstance()->UpdateHistoryList(m_type, results);
   Release();
 }
+
+void CSearch::ReportFailure() { CZelhostHistoryManager::GetInstance()->OnSearchFailed(m_type); }

@@ -8,7 +8,7 @@
 class CVoicemail : public DescribedObject<Voicemail, kTraceVoicemail> {
  public:
   using DescribedObject::DescribedObject;
-  // Leaves the root's voicemail list and, when it is being played, the history manager.
+  // Leaves the root's voicemail list and the history manager.
   ~CVoicemail() override;
 
   void OnChange(int property, const ZEString& value) override;

@@ -158,6 +158,29 @@ TEST_F(AnEngineInACall, SeesTheTestPictureAndHearsATone) {
   EXPECT_NEAR(8000, *std::max_element(samples.begin(), samples.end()), 10);
 }
 
+TEST_F(AnEngineInACall, HearsAnotherMelodyForEachRecordingAndThenATone) {
+  // Waves in the next packet of sound, which hold a hundredth of a second.
+  const auto waves = [&] {
+    const std::string sound = EngineSide::Receive(engine->soundIn).payload;
+    std::vector<std::int16_t> samples(sound.size() / 2);
+    std::memcpy(samples.data(), sound.data(), 2 * samples.size());
+    int rising = 0;
+    for (std::size_t i = 1; i < samples.size(); ++i) rising += samples[i - 1] <= 0 && samples[i] > 0;
+    return rising;
+  };
+  for (const auto& [recording, frequency] : {std::pair(1u, 400), std::pair(11u, 600)}) {
+    media.PlayRecording(recording);
+    EXPECT_EQ(packet::kSoundBegins, EngineSide::Receive(engine->soundIn).type);
+    EXPECT_EQ(frequency / 100, waves());
+    media.EndSound();
+    while (EngineSide::Receive(engine->soundIn).type == packet::kMedia) {
+    }
+  }
+  media.PlayRecording(1);
+  media.BeginSound(FarSound::Tone);
+  media.EndSound();
+}
+
 TEST_F(AnEngineInACall, IsMeasuredAndServedByOrders) {
   EXPECT_EQ((json{"audio-in", "audio-out", "video-in", "video-out"}), Order("media")["attached"]);
   EngineSide::Send(engine->soundOut, packet::kMicConfiguration, Words({1, 20, 30}));
