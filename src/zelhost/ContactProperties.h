@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "apiwrapper/Contact.h"
+#include "apiwrapper/ZEIntDict.h"
 
 namespace zelhost {
 
@@ -55,6 +56,12 @@ inline constexpr int kContactRecord[] = {Contact::P_IDENTITY,
                                          Contact::P_AVATAR,
                                          Contact::P_33};
 inline constexpr std::size_t kContactRecordFields = sizeof kContactRecord / sizeof kContactRecord[0];
+
+// What a contact with those values is called by: its identity or, without one, its phone number.
+inline ZEString KeyOf(const ZEIntDict& values) {
+  const ZEString identity = values.find(Contact::P_IDENTITY);
+  return identity.isEmpty() ? values.find(Contact::P_PHONE_NUMBER) : identity;
+}
 
 // What an availability means for the list (a sort category) and for the host (a status).
 struct AvailabilityMeaning {

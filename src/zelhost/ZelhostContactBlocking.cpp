@@ -101,9 +101,7 @@ const char* CZelhostContactManager::GetBlockedContact(int index) {
   if (wanted >= members.size()) return nullptr;
   const auto* contact = zeObjectAt<Contact>(members, wanted);
   if (contact == nullptr) return Result({});
-  const ZEString identity = contact->propCache.find(Contact::P_IDENTITY);
-  const ZEString key = identity.isEmpty() ? contact->propCache.find(Contact::P_PHONE_NUMBER) : identity;
-  return Result(key.view());
+  return Result(zelhost::KeyOf(contact->propCache).view());
 }
 
 const char* CZelhostContactManager::GetBlockedContactList() {
@@ -121,12 +119,11 @@ const char* CZelhostContactManager::GetBlockedContactList() {
     const auto* contact = zeObjectAt<Contact>(members, i);
     if (contact == nullptr) continue;
     const ZEIntDict& values = contact->propCache;
-    ZEString key = values.find(Contact::P_IDENTITY);
-    if (key == kUndefinedName) {
+    if (values.find(Contact::P_IDENTITY) == kUndefinedName) {
       ZELTO_DEBUG("Why undefined contact does exist in blocked group");
       continue;
     }
-    if (key.isEmpty()) key = values.find(Contact::P_PHONE_NUMBER);
+    const ZEString key = zelhost::KeyOf(values);
     writer.Field(key.isEmpty() ? std::string_view(kUnknownName) : key.view());
     writer.Field(values.find(Contact::P_DISPLAY_NAME).view());
   }

@@ -14,6 +14,7 @@
 #include "zelhost/ZelhostAccountManager.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
 
+using zelhost::KeyOf;
 using zelhost::ListOf;
 using zelhost::ServiceHostLock;
 
@@ -38,11 +39,6 @@ const NewContact* FindNewContact(int kind) {
     if (row.kind == kind) return &row;
   }
   return nullptr;
-}
-
-ZEString KeyOf(const ZEIntDict& values) {
-  const ZEString identity = values.find(Contact::P_IDENTITY);
-  return identity.isEmpty() ? values.find(Contact::P_PHONE_NUMBER) : identity;
 }
 
 int CategoryOf(const ZEIntDict& values) {

@@ -1,4 +1,6 @@
 // Looking for people: in the service's directory, and in the list by an e-mail address.
+#include <utility>
+
 #include "Common/Log.h"
 #include "Common/RecordWriter.h"
 #include "Common/ZeltoManager.h"
@@ -123,9 +125,7 @@ void CZelhostContactManager::TakeEmails(ContactGroup::TYPE type) {
     auto* contact = zeObjectAt<Contact>(members, i);
     if (contact == nullptr) continue;
     const ZEIntDict values = std::exchange(contact->propCache, ZEIntDict());
-    const ZEString identity = values.find(Contact::P_IDENTITY);
-    const ZEString key = identity.isEmpty() ? values.find(Contact::P_PHONE_NUMBER) : identity;
-    if (const CContactInfo* entry = m_ContactList.Find(key.view())) {
+    if (const CContactInfo* entry = m_ContactList.Find(zelhost::KeyOf(values).view())) {
       m_ContactList.Set(entry, Contact::P_EMAILS, values.find(Contact::P_EMAILS));
     }
   }

@@ -127,7 +127,8 @@ class ContactService : public Service {
     std::vector<std::string> names;
     for (int i = 0; i < Contacts().GetNumOfContacts(); ++i) {
       const std::string identity = Text(Contacts().GetContactInfo(i, 1));
-      names.push_back(identity.empty() ? Text(Contacts().GetContactInfo(i, 2)) : identity);
+      names.push_back(identity.empty() || identity == "null" ? Text(Contacts().GetContactInfo(i, 2))
+                                                             : identity);
     }
     return names;
   }
