@@ -17,7 +17,7 @@
 
 #include "Common/RecordWriter.h"
 #include "apiwrapper/ZEIntDict.h"
-#include "zelhost/ContactList.h"
+#include "zelhost/contacts/ContactList.h"
 
 namespace {
 

@@ -25,9 +25,9 @@
 
 #include "Common/HostControl.h"
 #include "shmipc/shmipc.h"
-#include "zelhost/MediaLimits.h"
-#include "zelhost/ZelhostIPCInfo.h"
-#include "zelhost/ZelhostIPCManager.h"
+#include "zelhost/media/MediaLimits.h"
+#include "zelhost/media/ZelhostIPCInfo.h"
+#include "zelhost/media/ZelhostIPCManager.h"
 
 namespace {
 

@@ -18,8 +18,8 @@
 #include "Common/Notices.h"
 #include "Common/Platform.h"
 #include "Common/ZeltoImp.h"
-#include "zelhost/LifeCycleLimits.h"
-#include "zelhost/ZelhostLifeCycle.h"
+#include "zelhost/lifecycle/LifeCycleLimits.h"
+#include "zelhost/lifecycle/ZelhostLifeCycle.h"
 
 using zelto::EventHandlers;
 using zelto::EventQueue;

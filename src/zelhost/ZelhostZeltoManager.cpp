@@ -7,9 +7,9 @@
 #include "Common/Platform.h"
 #include "Common/ZeltoManager.h"
 #include "zelhost/EnginePaths.h"
-#include "zelhost/ZelhostIPCManager.h"
-#include "zelhost/ZelhostLocalSetting.h"
 #include "zelhost/commands/CommandTable.h"
+#include "zelhost/media/ZelhostIPCManager.h"
+#include "zelhost/settings/ZelhostLocalSetting.h"
 
 namespace {
 

@@ -7,8 +7,8 @@
 
 #include "Common/ZeltoManagerImp.h"
 #include "zelhost/ManagerInstance.h"
-#include "zelhost/WidgetTimers.h"
-#include "zelhost/ZelhostLifeCycle.h"
+#include "zelhost/lifecycle/ZelhostLifeCycle.h"
+#include "zelhost/widget/WidgetTimers.h"
 
 // How the widget is shown, in its own numbers.
 enum WidgetState {

@@ -1,11 +1,11 @@
 #include "Common/ZeltoImp.h"
 
-#include "zelhost/ZelhostAccountManager.h"
-#include "zelhost/ZelhostCallManager.h"
-#include "zelhost/chats/ZelhostChatManager.h"
-#include "zelhost/ZelhostContactManager.h"
-#include "zelhost/history/ZelhostHistoryManager.h"
 #include "zelhost/ZelhostZeltoManager.h"
+#include "zelhost/account/ZelhostAccountManager.h"
+#include "zelhost/calls/ZelhostCallManager.h"
+#include "zelhost/chats/ZelhostChatManager.h"
+#include "zelhost/contacts/ZelhostContactManager.h"
+#include "zelhost/history/ZelhostHistoryManager.h"
 
 CZeltoManagerImp* CZeltoImp::CreateZeltoManagerImp() { return CZelhostZeltoManager::GetInstance(); }
 CAccountManagerImp* CZeltoImp::CreateAccountManagerImp() { return CZelhostAccountManager::GetInstance(); }

@@ -3,7 +3,7 @@
 #include "Common/AccountManager.h"
 #include "Common/ZeltoImp.h"
 #include "Common/ZeltoManager.h"
-#include "zelhost/ZelhostLifeCycle.h"
+#include "zelhost/lifecycle/ZelhostLifeCycle.h"
 
 using test::FakeService;
 

@@ -14,14 +14,21 @@ using std::chrono::steady_clock;
 // For an event or a whole tour that must come: only a machine that stands still is as slow.
 constexpr milliseconds kLongestEvent{15000};
 constexpr milliseconds kLongestTour{60000};
-// Under a fault what has not come after the time of so many whole tours never comes.
-constexpr int kPatience = 2;
+// Under a fault what has not come after so many times the longest wait of a whole tour never comes.
+constexpr int kPatience = 4;
 constexpr milliseconds kLeastPatience{300};
 constexpr milliseconds kSlice{5};
-// The runtime's own waits go with the fast clock; how many times as short.
-constexpr char kRuntimePace[] = "10";
 // After a reply has been withheld: until everybody who is going to wait does so.
 constexpr milliseconds kUntilAllWait{60};
+
+milliseconds Since(steady_clock::time_point start) {
+  return std::chrono::duration_cast<milliseconds>(steady_clock::now() - start);
+}
+
+const char* NameOf(const TourStep& step) {
+  if (step.command != nullptr) return step.command;
+  return step.order != nullptr ? step.order : "A wait";
+}
 
 // The engine may be ended while the command hangs. That the call had found its way into the engine before is
 // then ordered by time alone, which the thread sanitizer does not count.
@@ -33,7 +40,9 @@ __attribute__((no_sanitize("thread"))) const char* Call(IMoIPEngine& engine, con
 
 }  // namespace
 
-ATour::ATour(const std::vector<TourStep>& steps) : m_steps(steps) { setenv("ZELHOST_PACE", kRuntimePace, 1); }
+ATour::ATour(const std::vector<TourStep>& steps, const char* runtimePace) : m_steps(steps) {
+  setenv("ZELHOST_PACE", runtimePace, 1);
+}
 
 ATour::~ATour() { unsetenv("ZELHOST_PACE"); }
 
@@ -41,9 +50,12 @@ bool ATour::Reaches(int event) {
   const auto isIt = [event](const television::Report& report) {
     return report.kind == television::Report::Kind::Event && report.type == event;
   };
-  const auto limit = steady_clock::now() + m_longestEvent;
-  while (steady_clock::now() < limit && !m_switchingOff) {
-    if (m_host.WaitFor(isIt, kSlice)) return true;
+  const auto start = steady_clock::now();
+  while (steady_clock::now() < start + m_longestEvent && !m_switchingOff) {
+    if (m_host.WaitFor(isIt, kSlice)) {
+      if (!m_wasWhole) m_longestWait = std::max(m_longestWait, Since(start));
+      return true;
+    }
     if (!Lives(m_runtime)) return m_host.WaitFor(isIt, kSlice * 4);
   }
   return false;
@@ -59,6 +71,7 @@ bool ATour::TakeSteps(IMoIPEngine& engine) {
   for (const TourStep& step : m_steps) {
     if (m_switchingOff) return false;
     if (step.order != nullptr) Order(step.order);
+    Before(engine, step);
     const char* text = Call(engine, step);
     std::string answer;
     {
@@ -68,17 +81,16 @@ bool ATour::TakeSteps(IMoIPEngine& engine) {
       answer = text;
     }
     if (whole && step.answer != nullptr && answer != step.answer) {
-      whole = Miss(step.command, "answered " + answer);
+      whole = Miss(NameOf(step), "answered " + answer);
     }
+    Meanwhile(engine, step);
     if (whole && step.event != 0 && !Reaches(step.event)) {
-      whole = Miss(step.command != nullptr ? step.command : step.order,
-                   "without event " + std::to_string(step.event));
+      whole = Miss(NameOf(step), "without event " + std::to_string(step.event));
     }
   }
   return whole;
 }
 
-// A runtime that has died takes no orders.
 void ATour::Order(const char* order) {
   try {
     Door(order);
@@ -98,7 +110,7 @@ void ATour::AskRuntime() {
 
 bool ATour::Run(Damage damage) {
   const auto start = steady_clock::now();
-  const milliseconds patience = std::max(m_wholeTour * kPatience, kLeastPatience);
+  const milliseconds patience = std::max(m_longestWait * kPatience, kLeastPatience);
   m_longestEvent = damage == Damage::None ? kLongestEvent : patience;
   m_faultWaits = damage == Damage::Hanging;
   m_firstMiss.clear();
@@ -125,9 +137,7 @@ bool ATour::Run(Damage damage) {
   SwitchOff();
   m_switchingOff = false;
   const bool whole = steps.get() && m_returned;
-  if (whole && m_wholeTour == milliseconds(0)) {
-    m_wholeTour = std::chrono::duration_cast<milliseconds>(steady_clock::now() - start);
-  }
+  m_wasWhole = m_wasWhole || whole;
   return whole;
 }
 

@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <cstdlib>
 #include <mutex>
 #include <string>
 #include <vector>
@@ -26,10 +27,16 @@ struct TourStep {
 extern const std::vector<TourStep> kSignInTour;
 // Sign in, a call of each kind, sign out.
 extern const std::vector<TourStep> kCallTour;
+// Sign in, a call to the echo, sign out.
+extern const std::vector<TourStep> kEchoTour;
+
+// Whether the loops take every frame, however long that takes.
+inline bool IsThorough() { return std::getenv("ZELTO_ALL_FAULTS") != nullptr; }
 
 class ATour : public ATelevision {
  protected:
-  explicit ATour(const std::vector<TourStep>& steps = kSignInTour);
+  // The runtime's own waits go with the fast clock: they are `runtimePace` times as short.
+  explicit ATour(const std::vector<TourStep>& steps = kSignInTour, const char* runtimePace = "10");
   ~ATour() override;
 
   // What the fault that the runtime has been told does to a tour; the less is left of it, the less patience.
@@ -53,6 +60,13 @@ class ATour : public ATelevision {
   // Whether the fault was yet to strike when the last tour was over; a runtime that has died cannot tell.
   bool FaultStillWaits() const { return m_faultWaits; }
 
+  // On the thread that takes the steps: before a step's command, and between the command and its event.
+  virtual void Before(IMoIPEngine&, const TourStep&) {}
+  virtual void Meanwhile(IMoIPEngine&, const TourStep&) {}
+
+  // For the runtime's test door. A runtime that has died takes none.
+  void Order(const char* order);
+
   // Fault-free, after whatever came before: everything works.
   void VerifySurvival();
 
@@ -60,16 +74,16 @@ class ATour : public ATelevision {
   bool TakeSteps(IMoIPEngine& engine);
   bool Miss(const std::string& step, const std::string& how);
   bool Reaches(int event);
-  void Order(const char* order);
   void AskRuntime();
 
   const std::vector<TourStep>& m_steps;
   // Loading waits 6 s for the runtime; on this clock that is a fraction of one.
   TourClock m_clock{40};
-  Watchdog m_watchdog{280};
-  std::mutex m_answerMutex;                  // held while an answer is read
-  std::atomic<bool> m_switchingOff{false};   // a television that is switched off asks and reads nothing more
-  std::chrono::milliseconds m_wholeTour{0};  // how long the first tour without faults took
+  Watchdog m_watchdog{IsThorough() ? 3600u : 280u};
+  std::mutex m_answerMutex;                 // held while an answer is read
+  std::atomic<bool> m_switchingOff{false};  // a television that is switched off asks and reads nothing more
+  std::chrono::milliseconds m_longestWait{0};  // for an event of the first tour without faults
+  bool m_wasWhole = false;
   std::chrono::milliseconds m_longestEvent{0};
   pid_t m_runtime = 0;
   bool m_returned = false;

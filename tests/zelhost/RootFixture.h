@@ -12,8 +12,8 @@
 #include "tests/support/Watchdog.h"
 #include "tests/zelhost/RuntimeMemory.h"
 #include "zelhost/ServiceHostMutex.h"
-#include "zelhost/ZelhostLocalSetting.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
+#include "zelhost/settings/ZelhostLocalSetting.h"
 
 namespace test {
 

@@ -128,7 +128,7 @@ bool PastCalls::Delete(unsigned id) {
   const auto found = m_calls.find(id);
   if (found == m_calls.end()) return false;
   m_service.DeletePastCall(found->second.record.number);
-  for (const unsigned member : found->second.members) m_world.Remove(member);
+  for (const unsigned member : found->second.members) m_world.Delete(member);
   m_calls.erase(found);
   m_world.Delete(id);
   return true;

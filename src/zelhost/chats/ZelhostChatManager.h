@@ -3,8 +3,8 @@
 #include <string>
 
 #include "Common/ChatManagerImp.h"
-#include "zelhost/CallAlarm.h"
 #include "zelhost/ManagerInstance.h"
+#include "zelhost/ManagerAlarm.h"
 #include "zelhost/chats/ChatList.h"
 
 class CChat;
@@ -92,6 +92,6 @@ class CZelhostChatManager : public CChatManagerImp {
   CChatInfo* m_pCurrentChat = nullptr;
   bool m_bChatOpened = false;  // a chat screen is open
   std::string m_strResult;
-  zelhost::CallAlarm m_newMessageAlarm;
+  zelhost::ManagerAlarm m_newMessageAlarm;
   bool m_bNewMessagePending = false;
 };

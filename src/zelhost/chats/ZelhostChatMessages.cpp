@@ -1,7 +1,7 @@
 // The chat manager's messages: read, marked and sent.
 #include "Common/Log.h"
 #include "zelhost/PropertyList.h"
-#include "zelhost/ZelhostAccountManager.h"
+#include "zelhost/account/ZelhostAccountManager.h"
 #include "zelhost/apiwrapper/client/CChat.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
 #include "zelhost/chats/ChatRecords.h"

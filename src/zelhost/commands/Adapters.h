@@ -9,8 +9,8 @@
 #include <utility>
 
 #include "Common/ZeltoManager.h"
-#include "zelhost/ZelhostLocalSetting.h"
 #include "zelhost/commands/CommandCall.h"
+#include "zelhost/settings/ZelhostLocalSetting.h"
 
 namespace zelhost {
 

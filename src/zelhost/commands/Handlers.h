@@ -9,10 +9,10 @@
 #include "Common/ChatManager.h"
 #include "Common/ContactManager.h"
 #include "Common/HistoryManager.h"
-#include "zelhost/ZelhostCallManager.h"
-#include "zelhost/ZelhostIPCManager.h"
 #include "zelhost/ZelhostZeltoManager.h"
+#include "zelhost/calls/ZelhostCallManager.h"
 #include "zelhost/commands/Adapters.h"
+#include "zelhost/media/ZelhostIPCManager.h"
 
 namespace zelhost {
 

@@ -4,10 +4,10 @@
 #include "Common/ZeltoManager.h"
 #include "apiwrapper/ZEPMap.h"
 #include "apiwrapper/tables/EnumMaps.h"
-#include "zelhost/ZelhostAccountManager.h"
-#include "zelhost/ZelhostLocalSetting.h"
+#include "zelhost/account/ZelhostAccountManager.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
 #include "zelhost/apiwrapper/client/FileBinary.h"
+#include "zelhost/settings/ZelhostLocalSetting.h"
 
 // What a changed property brings about.
 struct CAccount::Reaction {

@@ -2,9 +2,9 @@
 
 #include "Common/Assert.h"
 #include "Common/ZeltoManager.h"
-#include "zelhost/ZelhostCallManager.h"
 #include "zelhost/apiwrapper/client/CCallMember.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
+#include "zelhost/calls/ZelhostCallManager.h"
 #include "zelhost/history/ZelhostHistoryManager.h"
 
 // What a changed property brings about.

@@ -9,9 +9,9 @@
 #include "apiwrapper/Video.h"
 #include "apiwrapper/ZEPMap.h"
 #include "apiwrapper/tables/EnumMaps.h"
-#include "zelhost/ZelhostCallManager.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
 #include "zelhost/apiwrapper/client/FileBinary.h"
+#include "zelhost/calls/ZelhostCallManager.h"
 #include "zelhost/commands/CommandCall.h"
 
 using E = CZeltoManager;

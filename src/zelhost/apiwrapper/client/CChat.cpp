@@ -1,8 +1,8 @@
 #include "zelhost/apiwrapper/client/CChat.h"
 
-#include "zelhost/ZelhostContactManager.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
 #include "zelhost/chats/ZelhostChatManager.h"
+#include "zelhost/contacts/ZelhostContactManager.h"
 
 namespace {
 

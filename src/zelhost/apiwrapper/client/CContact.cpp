@@ -1,7 +1,7 @@
 #include "zelhost/apiwrapper/client/CContact.h"
 
-#include "zelhost/ZelhostContactManager.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
+#include "zelhost/contacts/ZelhostContactManager.h"
 
 const ZEString& CContact::Key() {
   if (m_key.isEmpty()) m_key = GetProp(P_IDENTITY);

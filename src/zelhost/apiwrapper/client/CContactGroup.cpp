@@ -3,8 +3,8 @@
 #include "Common/ZeltoManager.h"
 #include "apiwrapper/ZEPMap.h"
 #include "apiwrapper/tables/EnumMaps.h"
-#include "zelhost/ZelhostContactManager.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
+#include "zelhost/contacts/ZelhostContactManager.h"
 
 bool CContactGroup::Holds(CZelto& root, TYPE type, Contact* contact) {
   ContactGroup* group = root.GetHardwiredContactGroup(type);

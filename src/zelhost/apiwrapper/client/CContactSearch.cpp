@@ -3,8 +3,8 @@
 #include "Common/ZeltoManager.h"
 #include "apiwrapper/ZEReply.h"
 #include "zelhost/PropertyList.h"
-#include "zelhost/ZelhostContactManager.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
+#include "zelhost/contacts/ZelhostContactManager.h"
 
 void CContactSearch::OnChange(int property, const ZEString& value) {
   const CZelto* root = client::RootOf(*this);

@@ -9,7 +9,6 @@
 #include "Common/DevicePath.h"
 #include "Common/Log.h"
 #include "Common/Platform.h"
-#include "zelhost/ZelhostCallManager.h"
 #include "zelhost/apiwrapper/client/CAccount.h"
 #include "zelhost/apiwrapper/client/CAppToApp.h"
 #include "zelhost/apiwrapper/client/CCall.h"
@@ -24,6 +23,7 @@
 #include "zelhost/apiwrapper/client/CTransfer.h"
 #include "zelhost/apiwrapper/client/CVoicemail.h"
 #include "zelhost/apiwrapper/client/CZeltoVideo.h"
+#include "zelhost/calls/ZelhostCallManager.h"
 
 CZelto* g_lpZelto = nullptr;
 

@@ -4,16 +4,16 @@
 #include "apiwrapper/ChatMessage.h"
 #include "apiwrapper/ZEPMap.h"
 #include "apiwrapper/tables/EnumMaps.h"
-#include "zelhost/ZelhostCallManager.h"
-#include "zelhost/chats/ZelhostChatManager.h"
-#include "zelhost/history/ZelhostHistoryManager.h"
-#include "zelhost/ZelhostLocalSetting.h"
 #include "zelhost/apiwrapper/client/CCall.h"
 #include "zelhost/apiwrapper/client/CChat.h"
 #include "zelhost/apiwrapper/client/CTransfer.h"
 #include "zelhost/apiwrapper/client/CVoicemail.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
 #include "zelhost/apiwrapper/client/FileBinary.h"
+#include "zelhost/calls/ZelhostCallManager.h"
+#include "zelhost/chats/ZelhostChatManager.h"
+#include "zelhost/history/ZelhostHistoryManager.h"
+#include "zelhost/settings/ZelhostLocalSetting.h"
 
 namespace {
 

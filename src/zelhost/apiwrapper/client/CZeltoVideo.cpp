@@ -2,9 +2,9 @@
 
 #include "Common/Log.h"
 #include "Common/ZeltoManager.h"
-#include "zelhost/ZelhostCallManager.h"
 #include "zelhost/apiwrapper/client/CCall.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
+#include "zelhost/calls/ZelhostCallManager.h"
 
 using E = CZeltoManager;
 

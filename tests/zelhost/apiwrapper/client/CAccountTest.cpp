@@ -1,7 +1,7 @@
 #include "zelhost/apiwrapper/client/CAccount.h"
 
 #include "tests/zelhost/RootFixture.h"
-#include "zelhost/ZelhostAccountManager.h"
+#include "zelhost/account/ZelhostAccountManager.h"
 
 using zelhost::ServiceHostLock;
 

@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include "tests/zelhost/RootFixture.h"
-#include "zelhost/ZelhostCallManager.h"
 #include "zelhost/apiwrapper/client/CAccount.h"
 #include "zelhost/apiwrapper/client/CCall.h"
 #include "zelhost/apiwrapper/client/CContact.h"
@@ -12,6 +11,7 @@
 #include "zelhost/apiwrapper/client/CTransfer.h"
 #include "zelhost/apiwrapper/client/CVoicemail.h"
 #include "zelhost/apiwrapper/client/FileBinary.h"
+#include "zelhost/calls/ZelhostCallManager.h"
 
 using zelhost::ServiceHostLock;
 
