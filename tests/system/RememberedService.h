@@ -1,0 +1,129 @@
+// A viewer who is signed in to a service that remembers chats, calls, voicemails and people.
+#pragma once
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <chrono>
+#include <ctime>
+#include <initializer_list>
+#include <mutex>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include "tests/system/SwitchedOnTelevision.h"
+
+namespace test {
+
+constexpr int kContactUpdated = 258;
+constexpr int kContactRemoved = 259;
+constexpr int kUnreadCountChanged = 372;
+constexpr int kHistoryChanged = 378;
+
+class AViewerWithAPast : public ATelevision {
+ protected:
+  using json = nlohmann::json;
+
+  ~AViewerWithAPast() override { SwitchOff(); }
+  void SetUp() override {
+    m_host.SetObserver([this](const television::Report& report) {
+      const std::lock_guard lock(m_mutex);
+      if (report.kind == television::Report::Kind::Event) m_events.push_back(report.type);
+    });
+    SwitchOnAndWait();
+  }
+  // Signs in and waits for history and chats.
+  void SignInAndRemember() {
+    ASSERT_NO_FATAL_FAILURE(SignIn());
+    ASSERT_TRUE(Arrives(kHistoryChanged, nullptr, 60));
+    ASSERT_TRUE(Arrives(kUnreadCountChanged, nullptr, 60));
+  }
+  json Order(const json& order) {
+    json answer = json::parse(Door(order.dump()));
+    EXPECT_TRUE(answer.value("ok", false)) << order << ": " << answer;
+    return answer;
+  }
+  bool IsThere(int object) {
+    const json order = {{"order", "object"}, {"object", std::to_string(object)}};
+    return json::parse(Door(order.dump())).value("ok", false);
+  }
+  // What the runtime holds under that id or name of a class.
+  std::string Value(const std::string& object, int property) {
+    const json values = Order({{"order", "object"}, {"object", object}})["properties"];
+    return values.value(std::to_string(property), "");
+  }
+  int IdOf(const std::string& object) { return Order({{"order", "object"}, {"object", object}})["object"]; }
+  void Set(const std::string& object, int property, const std::string& value) {
+    Order({{"order", "set"}, {"object", object}, {"property", property}, {"value", value}});
+  }
+  // The contact list is said to be in sync anew, at which the engine looks for everything again.
+  void StartRefresh() {
+    constexpr int kListStatus = 30;
+    Set("account", kListStatus, "3");
+    Set("account", kListStatus, "5");
+  }
+  void Refresh() {
+    StartRefresh();
+    ASSERT_TRUE(Arrives(kHistoryChanged, nullptr, 60));
+    ASSERT_TRUE(Arrives(kUnreadCountChanged, nullptr, 60));
+  }
+  // The engine forgets the object while the runtime keeps it: the next time that the runtime names the id,
+  // it is another object's.
+  void ForgetsId(int object) {
+    Order({{"order", "event"}, {"event", "ObjectDelete"}, {"object", std::to_string(object)}});
+  }
+  // Frames in both directions until now, and those that something costs.
+  int Frames() { return Order({{"order", "status"}})["frames"]; }
+  template <class Action>
+  int FramesOf(Action action) {
+    const int before = Frames();
+    action();
+    return Frames() - before;
+  }
+  int Heard(int event) {
+    constexpr int kLastTimer = 412;
+    Execute("OSDTimerExpired", "9");
+    EXPECT_TRUE(Arrives(kLastTimer));
+    const std::lock_guard lock(m_mutex);
+    return static_cast<int>(std::count(m_events.begin(), m_events.end(), event));
+  }
+  template <class Condition>
+  static bool Becomes(Condition condition) {
+    for (int steps = 0; !condition(); ++steps) {
+      if (steps == 1000) return false;
+      std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    return true;
+  }
+
+  static std::string Record(const std::vector<std::string>& fields) {
+    std::string record;
+    for (const std::string& field : fields) record += field + "\x03\x02";
+    return record;
+  }
+  static std::vector<std::string> Fields(const std::string& records) {
+    std::vector<std::string> fields;
+    std::size_t begin = 0;
+    for (std::size_t end; (end = records.find("\x03\x02", begin)) != std::string::npos; begin = end + 2) {
+      fields.push_back(records.substr(begin, end - begin));
+    }
+    EXPECT_EQ(begin, records.size()) << "something behind the last field";
+    return fields;
+  }
+  static std::string LocalTime(const std::string& seconds) {
+    const std::time_t time = std::stol(seconds);
+    std::tm local{};
+    char text[32];
+    std::strftime(text, sizeof text, "%Y-%m-%d %I:%M %p", localtime_r(&time, &local));
+    return text;
+  }
+
+ private:
+  std::mutex m_mutex;
+  std::vector<int> m_events;
+};
+
+}  // namespace test
