@@ -1,18 +1,17 @@
 #include "simulator/television/ContactList.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdlib>
 #include <iterator>
 #include <utility>
+
+#include "simulator/television/Records.h"
 
 namespace television {
 
 namespace {
 
-constexpr std::string_view kSeparator = "\x03\x02";
-
-// Fields of a record, each followed by the separator.
+// Fields of a record.
 enum Field { kIdentity, kPhone, kDisplayName, kAvailability, kGender, kPicture, kMood, kFields };
 
 struct Presence {
@@ -38,13 +37,7 @@ constexpr Presence kPresences[] = {
 
 std::vector<Contact> ReadContacts(std::string_view records) {
   std::vector<Contact> contacts;
-  std::array<std::string, kFields> fields;
-  std::size_t field = 0;
-  for (std::size_t end; (end = records.find(kSeparator)) != std::string_view::npos;) {
-    fields[field++] = std::string(records.substr(0, end));
-    records.remove_prefix(end + kSeparator.size());
-    if (field < kFields) continue;
-    field = 0;
+  for (Record& fields : ReadRecords(records, kFields)) {
     const int availability = static_cast<int>(std::strtol(fields[kAvailability].c_str(), nullptr, 10));
     contacts.push_back({std::move(fields[kIdentity]), std::move(fields[kPhone]),
                         std::move(fields[kDisplayName]), availability, std::move(fields[kPicture]),

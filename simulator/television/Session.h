@@ -10,6 +10,7 @@
 #include "simulator/television/Errands.h"
 #include "simulator/television/Host.h"
 #include "simulator/television/NoticeBoard.h"
+#include "simulator/television/Records.h"
 #include "simulator/television/Screen.h"
 #include "simulator/television/media/MediaStudio.h"
 
@@ -17,8 +18,8 @@ namespace television {
 
 // A television with its engine, driven by lines: the engine's string commands by their names, the host
 // queries, and a few words of the console's own (Session.cpp lists them in one table; SessionCalls.cpp has
-// those about contacts and calls, SessionNotices.cpp those about notices). A person at the prompt and a
-// script use the same lines. Threads: one.
+// those about calls, SessionLists.cpp about chats, history and the directory, SessionNotices.cpp about
+// notices). A person at the prompt and a script use the same lines. Threads: one.
 class Session {
  public:
   // Throws std::runtime_error when the library cannot be loaded or the media can't be used.
@@ -65,6 +66,11 @@ class Session {
   void Say(const Words& words);
   void Quit(const Words& words);
   void ListContacts(const Words& words);
+  void ListChats(const Words& words);
+  void ListMessages(const Words& words);
+  void ListHistory(const Words& words);
+  void ListFound(const Words& words);
+  void ListBlocked(const Words& words);
   void Call(const Words& words);
   void AnswerCall(const Words& words);
   void HangUp(const Words& words);
@@ -81,6 +87,10 @@ class Session {
   std::string EngineAnswer(const Words& words);
   // The same, with command and answer printed; the answer is the last one then.
   void Perform(const Words& words, const std::string& line);
+  // Prints lines; together they are the last answer then.
+  void List(const Words& lines);
+  // Runs a list query and lists its records.
+  void ListRecords(const Words& query, std::size_t fields, std::string (*line)(const Record&));
   void Hold(bool held, const std::string& expectation);
   bool Wait(const std::string& what, int seconds, const std::function<bool(const Report&)>& condition);
 

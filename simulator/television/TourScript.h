@@ -1,6 +1,6 @@
 // What `zelto-tv --tour` shows: a television is switched on, a viewer signs in, changes things, sees who is
 // there, calls and is called, reads notices in three scripts, signs out and is signed in by himself the next
-// time.
+// time, sees what was missed, chats, hears a voicemail and changes the contact list.
 #pragma once
 
 namespace television {
@@ -145,6 +145,81 @@ GetMicVolume
 expect 77
 GetAccountInfo 16
 expect "At home, by the television"
+
+say The past, with the call that was missed
+wait HISTORY_CHANGED 10
+history
+expect-like missed call from +Maria Sample .* new
+
+say Somebody writes
+door {"order":"message","from":"maria","text":"Are you coming to dinner?"}
+wait CHAT_NEW_MESSAGE 10
+chats
+expect-like ^Maria Sample +1 unread
+OpenChatWithContact maria
+expect 1
+messages
+expect-like Maria Sample: Are you coming to dinner[?]
+SendMessage "At seven, with cake"
+expect 1
+# With what comes back.
+wait UNREAD_COUNT_CHANGED 10
+messages
+expect-like : At seven, with cake  .sent.*Maria Sample: You wrote: At seven
+CloseChat
+expect 1
+chats
+expect-like ^Maria Sample +[^u]+ chat
+
+say A voicemail is left and played
+door {"order":"voicemail","from":"anna","seconds":2}
+wait PUBLIC_SHOW_NOTICE 10
+notice
+expect-like ^4 .*voicemail
+press
+history
+expect-like ^0 +voicemail from +Anna .* 0:02 +new
+PlayVoicemail 0
+expect 1
+wait VOICEMAIL_STATUS_6 10
+wait HISTORY_CHANGED 5
+history
+expect-like voicemail from +Anna .* 0:02
+media
+expect-like packets sent, [1-9][0-9]* received
+
+say Somebody is looked for in the directory, added, renamed, blocked and removed
+SearchNewContact slow
+expect 1
+wait CONTACTSEARCH_RESULT_READY 5
+found
+expect-like ^Slow Going +slow.going +Portugal
+AddContact slow.going "Hello from the television"
+expect 1
+wait CONTACT_UPDATED 5
+contacts
+expect-like slow.going [|]+ .*Slow Going
+Rename slow.going "Slowly Going"
+expect 1
+wait CONTACT_UPDATED 5
+contacts
+expect-like Slowly Going
+Block slow.going 0
+expect 1
+wait CONTACT_BLOCKED 5
+blocked
+expect-like Slowly Going +slow.going
+Unblock slow.going
+expect 1
+wait CONTACT_GROUP_CHANGED 5
+blocked
+expect-like ^Jonas +jonas$
+Remove slow.going
+expect 1
+wait CONTACT_REMOVED 5
+contacts
+IsMyBuddy slow.going
+expect 0
 )";
 
 }  // namespace television

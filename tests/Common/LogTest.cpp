@@ -34,7 +34,8 @@ TEST(TheLog, PrintsFromEachLevelOnWhatBelongsToIt) {
 }
 
 TEST(TheLog, KeepsLinesWholeAtEveryLength) {
-  for (std::size_t length : {0, 1, 495, 496, 497, 498, 499, 508, 509, 510, 511, 512, 513, 100'000}) {
+  for (std::size_t length : std::initializer_list<std::size_t>{0, 1, 495, 496, 497, 498, 499, 508, 509, 510,
+                                                               511, 512, 513, 100'000}) {
     const std::string text(length, 'x');
     EXPECT_EQ(Printed([&] { zelto::Print("%s", text.c_str()); }), text + "\n") << length;
     EXPECT_EQ(Printed([&] { ZELTO_FATAL("%s\n", text.c_str()); }), "[ZELTO_FATAL]" + text + "\n") << length;

@@ -100,8 +100,10 @@ void CZelhostContactManager::OnAvailability(const Change& change) {
 }
 
 void CZelhostContactManager::OnDisplayName(const Change& change) {
-  if (change.entry->Get(Contact::P_DISPLAY_NAME).view() != change.value.view()) {
-    Keep(change);
+  // Nobody is shown without a name.
+  const ZEString name = change.value.isEmpty() ? change.entry->Key() : change.value;
+  if (change.entry->Get(Contact::P_DISPLAY_NAME).view() != name.view()) {
+    m_ContactList.Set(change.entry, Contact::P_DISPLAY_NAME, name);
     m_ContactList.Place(change.entry);
   }
   SendEvent(CZeltoManager::CONTACT_UPDATED, Contact::P_DISPLAY_NAME);

@@ -3,10 +3,9 @@
 #include "zelhost/apiwrapper/client/CZelto.h"
 #include "zelhost/contacts/ZelhostContactManager.h"
 
-const ZEString& CContact::Key() {
-  if (m_key.isEmpty()) m_key = GetProp(P_IDENTITY);
-  if (m_key.isEmpty()) m_key = GetProp(P_PHONE_NUMBER);
-  return m_key;
+ZEString CContact::Key() {
+  const ZEString identity = GetProp(P_IDENTITY);
+  return identity.isEmpty() ? GetProp(P_PHONE_NUMBER) : identity;
 }
 
 void CContact::OnChange(int property, const ZEString& value) {

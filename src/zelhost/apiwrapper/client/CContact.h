@@ -14,8 +14,7 @@ class CContact : public ClientObject<Contact, kTraceContact> {
   void OnContactGoneOffline() override;
 
  private:
-  // Identity or, without one, phone number; empty when the runtime gives neither. It is asked once.
-  const ZEString& Key();
-
-  ZEString m_key;
+  // Identity or, without one, phone number; empty when the runtime gives neither. It is asked each time, since
+  // an identity may change.
+  ZEString Key();
 };

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace television {
+
+using Record = std::vector<std::string>;
+
+// The records of a list query of the engine, each of that many fields; an incomplete one at the end is left
+// out.
+std::vector<Record> ReadRecords(std::string_view text, std::size_t fields);
+
+}  // namespace television
