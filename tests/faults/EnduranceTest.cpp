@@ -106,7 +106,7 @@ class CallsWithoutEnd : public ATelevision {
   }
 
  private:
-  TourClock m_clock{40};
+  TourClock& m_clock = TourClock::Make(40);
   Watchdog m_watchdog{280};
 };
 

@@ -5,10 +5,18 @@
 
 #include <chrono>
 #include <fstream>
+#include <memory>
 #include <string>
 #include <thread>
+#include <vector>
 
 namespace test {
+
+TourClock& TourClock::Make(std::int64_t factor) {
+  static auto* const clocks = new std::vector<std::unique_ptr<TourClock>>;
+  clocks->push_back(std::make_unique<TourClock>(factor));
+  return *clocks->back();
+}
 
 namespace {
 

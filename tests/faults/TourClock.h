@@ -17,6 +17,9 @@ class TourClock : public FastClock {
  public:
   using FastClock::FastClock;
 
+  // A clock that stays for the life of the process, also when another one has taken its place.
+  static TourClock& Make(std::int64_t factor);
+
   pid_t Spawn(const zelto::SpawnRequest& request) override;
   int Connect(int descriptor, const sockaddr* address, socklen_t length) override;
   int Kill(pid_t pid, int signal) override;

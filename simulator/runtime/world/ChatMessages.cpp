@@ -156,11 +156,13 @@ bool Chats::MarkRead(unsigned id) {
   if (message == nullptr) return false;
   Object& object = *m_world.Find(id);
   if (object.GetInt(message::kStatus) != message::kUnread) return true;
+  const unsigned in = message->chat;
   m_service.ChangeMessageStatus(message->number, message::kRead);
+  ChatRecord& record = m_chats[in].record;
+  const int unread = record.unread = std::max(0, record.unread - 1);
   m_world.SetInt(object, message::kStatus, message::kRead);
-  ChatRecord& record = m_chats[message->chat].record;
-  record.unread = std::max(0, record.unread - 1);
-  m_world.SetInt(*m_world.Find(message->chat), chat::kUnread, record.unread);
+  // An order that is carried out at the frame just sent may have taken the chat away.
+  if (Object* chat = m_world.Find(in)) m_world.SetInt(*chat, chat::kUnread, unread);
   return true;
 }
 
