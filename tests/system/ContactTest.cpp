@@ -14,6 +14,15 @@ constexpr int kFoundProfile = 359;
 constexpr int kFoundNobody = 390;
 constexpr int kAuthLevel = 23;
 
+// A list and one ten times as long, as the demo account's own grows; sanitizers make the service's own work
+// slow.
+#ifdef __SANITIZE_ADDRESS__
+constexpr int kFew = 100;
+#else
+constexpr int kFew = 1000;
+#endif
+constexpr int kLast = 10 * kFew + 12;
+
 #define PICTURE(name) "file:///mtd_rwcommon/moip/engines/Zelto/avatar/" name ".jpg"
 
 class AViewersPeople : public AViewerWithAPast {
@@ -133,23 +142,23 @@ TEST_F(AViewersPeople, AreListedFoundAddedNamedBlockedAndRemoved) {
   EXPECT_EQ(Execute("IsMyBuddy", "farid") + Execute("Remove", "no name"), "00");
 }
 
-TEST_F(AViewersPeople, CostWithTenThousandOfThemWhatIsShown) {
+TEST_F(AViewersPeople, CostWithThousandsOfThemWhatIsShown) {
   int frames[2];
-  for (const int more : {1000, 9000}) {
+  for (const int more : {kFew, 9 * kFew}) {
     Order({{"order", "contacts"}, {"count", more}, {"seed", more}, {"account", kDemoName}});
-    frames[more != 1000] = FramesOf([&] { SignInAndRemember(); });
+    frames[more != kFew] = FramesOf([&] { SignInAndRemember(); });
     std::string page;
-    EXPECT_LE(FramesOf([&] { page = Execute("GetContactListWithoutUnauthorizedContacts", "500", "50"); }),
-              10);
+    EXPECT_LE(FramesOf([&] { page = Execute("GetContactListWithoutUnauthorizedContacts", "50", "50"); }), 10);
     EXPECT_EQ(Fields(page).size(), 50u * 7);
-    if (more != 1000) break;
+    if (more != kFew) break;
     ASSERT_EQ(Execute("Logout", "0"), "1");
     ASSERT_TRUE(Arrives(kLoggedOut));
   }
-  ASSERT_EQ(Execute("GetNumOfContacts"), "10013");
+  ASSERT_EQ(Execute("GetNumOfContacts"), std::to_string(kLast + 1));
   EXPECT_LE(frames[1], 13 * frames[0]);
-  const std::string last = Execute("GetContactPropWithIndex", "10012", "1");
-  EXPECT_LE(FramesOf([&] { EXPECT_EQ(Execute("GetIndexOfContact", last.c_str()), "10012"); }), 10);
+  const std::string last = Execute("GetContactPropWithIndex", std::to_string(kLast).c_str(), "1");
+  EXPECT_LE(FramesOf([&] { EXPECT_EQ(Execute("GetIndexOfContact", last.c_str()), std::to_string(kLast)); }),
+            10);
   EXPECT_LE(FramesOf([&] { EXPECT_EQ(Execute("Rename", last.c_str(), "Aaa"), "1"); }), 20);
 }
 

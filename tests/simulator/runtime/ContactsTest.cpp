@@ -168,7 +168,7 @@ TEST_F(TheContactList, OfTenThousandIsAnsweredWithoutDelay) {
   }
   EXPECT_EQ(10000u + 12, lines);
   // It takes half a second; one step that looks at everybody for each contact would make it minutes.
-  EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(20));
+  EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(60));
   SignIn("demo", "demo1234");
   EXPECT_EQ(ids, Result(ContactGroupMethod::GetContacts, On(Group(2)), ZEKey::Objects));
 }

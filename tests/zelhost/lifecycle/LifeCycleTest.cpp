@@ -65,7 +65,7 @@ TEST_F(AService, ComesUpOnceAndTellsTheHost) {
                   "1441,1449,2075,1073,1909,1324,1413,1754,1838,1565,1766,1604,1177,1446,1199,2004,1419,1359,"
                   "1724,1670,1527,1792,1307,1793,1570,1794,1865\"",
                   "a 1221 1522 1857=\"1583\""));
-  ExpectUnloadsWithin(5);
+  ExpectUnloadsWithin(20);
 }
 
 TEST_F(AService, RefusesToLoadWithoutAnExecutableRuntime) {
@@ -82,7 +82,7 @@ TEST_F(AService, ResetsItsDatabaseOnlyWhileUnloaded) {
   ASSERT_TRUE(IsLoaded());
   EXPECT_FALSE(CZeltoManager::ResetDB());
   EXPECT_TRUE(m_device.Has(database));
-  ExpectUnloadsWithin(5);
+  ExpectUnloadsWithin(20);
   EXPECT_TRUE(CZeltoManager::ResetDB());
   EXPECT_FALSE(m_device.Has(database));
 }
@@ -94,7 +94,7 @@ TEST_F(AService, FindsARuntimeThatListensLate) {
   EXPECT_EQ(CZeltoManager::GetZeltoState(), CZelhostLifeCycle::ZELTO_LOADING);
   Listen();
   EXPECT_TRUE(m_host.WaitFor(CZeltoManager::ZELTO_RUNTIME_READY));
-  ExpectUnloadsWithin(5);
+  ExpectUnloadsWithin(20);
 }
 
 TEST_F(AService, GivesUpOnARuntimeThatNeverListens) {
@@ -106,7 +106,7 @@ TEST_F(AService, GivesUpOnARuntimeThatNeverListens) {
   EXPECT_EQ(zelhost::RuntimeProcess::Current(), nullptr);
   Listen();
   EXPECT_TRUE(IsLoaded());  // neither thread nor channels of the failed attempt are in the way
-  ExpectUnloadsWithin(5);
+  ExpectUnloadsWithin(20);
   m_runtime.reset();
 }
 
@@ -144,7 +144,7 @@ TEST_F(AService, UnloadsWhileThePollThreadWaitsForTheUnloadingThread) {
   ASSERT_TRUE(IsLoaded());
   zelhost::ServiceHostLock lock("the test");
   zelto::SleepMilliseconds(200);
-  ExpectUnloadsWithin(5);
+  ExpectUnloadsWithin(20);
 }
 
 // The poll thread is the one that asks for the camera, deep inside of what an unload would take down.
@@ -157,7 +157,7 @@ TEST_F(AService, RefusesToUnloadOnItsOwnPollThread) {
   CZeltoManager::GetInstance()->RegisterCommonCtrlFunc(UnloadingTelevision, nullptr);
   ASSERT_TRUE(IsLoaded());
   EXPECT_EQ(m_runtime->requests(kStart).at(0).arguments.at("1553"), "10070/1.0.0.0/");
-  ExpectUnloadsWithin(5);
+  ExpectUnloadsWithin(20);
 }
 
 TEST_F(AService, AnswersAStopWithinItsStartUpTime) {
@@ -191,7 +191,7 @@ TEST_F(AService, OpensItsChannelsThoughAKilledEngineLeftSegmentsBehind) {
   EXPECT_EQ(blob[0], 48000u);
   EXPECT_EQ(blob[1], 1u);
   SHMIPC_close_channel(audioIn);
-  ExpectUnloadsWithin(5);
+  ExpectUnloadsWithin(20);
 }
 
 }  // namespace
