@@ -1,10 +1,9 @@
 // A one-shot alarm whose callback can tell whether it still counts.
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
-#include <limits>
 
+#include "Common/DecimalText.h"
 #include "Common/ZeltoAlarm.h"
 
 namespace zelhost {
@@ -19,9 +18,8 @@ class ManagerAlarm {
   void Start(std::int64_t microseconds, ZeltoAlarmCallback callback) {
     Stop();
     m_number = ++s_lastNumber;
-    constexpr std::int64_t kLongest = std::numeric_limits<int>::max();
-    m_alarm.Create(static_cast<int>(std::min(microseconds, kLongest)), callback,
-                   reinterpret_cast<const void*>(m_number), &m_alarm);
+    m_alarm.Create(zelto::NearestInt(microseconds), callback, reinterpret_cast<const void*>(m_number),
+                   &m_alarm);
   }
   // Whether there was one to stop, expired or not.
   bool Stop() {

@@ -5,8 +5,8 @@
 #include <charconv>
 #include <string>
 
+#include "Common/DecimalText.h"
 #include "Common/ZeltoManager.h"
-#include "zelhost/commands/CommandCall.h"
 
 namespace zelhost {
 
@@ -26,7 +26,12 @@ inline std::string Tell(const char* control, const char* p1 = nullptr, const cha
   return CZeltoManager::CallCommonControl(control, p1, p2, p3, p4);
 }
 
+// The number that it answers a question with; 0 without one.
+inline int AskNumber(const char* question, const char* p1 = nullptr) {
+  return zelto::DecimalValue(Tell(question, p1).c_str());
+}
+
 // Whether it answers a question with 1 or more.
-inline bool HostSaysYes(const char* question) { return ToInt(Tell(question).c_str()) >= 1; }
+inline bool HostSaysYes(const char* question) { return AskNumber(question) >= 1; }
 
 }  // namespace zelhost

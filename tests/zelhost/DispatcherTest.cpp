@@ -4,12 +4,12 @@
 #include <set>
 #include <thread>
 
+#include "Common/DecimalText.h"
 #include "Common/Log.h"
 #include "Common/Platform.h"
 #include "tests/support/DeviceRoot.h"
 #include "tests/support/RecordingHost.h"
 #include "tests/support/SurvivalCheck.h"
-#include "zelhost/commands/CommandCall.h"
 
 namespace {
 
@@ -159,7 +159,7 @@ TEST(ANumberInACommand, IsReadAsStrtolDoesAndBroughtIntoRange) {
                                               {"0x10", 0},
                                               {"2147483648", 2147483647},
                                               {"-99999999999999999999", -2147483647 - 1}};
-  for (const auto& [text, number] : numbers) EXPECT_EQ(zelhost::ToInt(text.c_str()), number) << text;
+  for (const auto& [text, number] : numbers) EXPECT_EQ(zelto::DecimalValue(text.c_str()), number) << text;
 }
 
 }  // namespace

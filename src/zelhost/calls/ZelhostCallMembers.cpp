@@ -1,12 +1,12 @@
 // What the widget asks about the call and its members.
 #include "Common/ContactManager.h"
+#include "Common/DecimalText.h"
 #include "Common/Log.h"
 #include "Common/RecordWriter.h"
 #include "Common/ZeltoManager.h"
 #include "zelhost/apiwrapper/client/CCall.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
 #include "zelhost/calls/ZelhostCallManager.h"
-#include "zelhost/commands/CommandCall.h"
 #include "zelhost/contacts/ZelhostContactManager.h"
 #include "zelhost/settings/ZelhostLocalSetting.h"
 
@@ -155,7 +155,7 @@ bool CZelhostCallManager::IsConference() {
 
 bool CZelhostCallManager::IsPSTNCall() {
   ServiceHostLock lock("IsPSTNCall");
-  return zelhost::ToInt(m_members.Value(0, CallMember::P_TYPE)) == CallMember::TYPE_PHONE_NUMBER;
+  return zelto::DecimalValue(m_members.Value(0, CallMember::P_TYPE)) == CallMember::TYPE_PHONE_NUMBER;
 }
 
 bool CZelhostCallManager::IsEmergencyCall(const char* identity) {

@@ -1,11 +1,11 @@
 // What becomes of an incoming call, and the alarms that forward it or let the next one in.
+#include "Common/DecimalText.h"
 #include "Common/Log.h"
 #include "zelhost/ZelhostZeltoManager.h"
 #include "zelhost/account/ZelhostAccountManager.h"
 #include "zelhost/apiwrapper/client/CAccount.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
 #include "zelhost/calls/ZelhostCallManager.h"
-#include "zelhost/commands/CommandCall.h"
 #include "zelhost/contacts/ZelhostContactManager.h"
 #include "zelhost/history/ZelhostHistoryManager.h"
 #include "zelhost/settings/ZelhostLocalSetting.h"
@@ -23,8 +23,7 @@ constexpr int kForwardingGrace = 5;
 constexpr int kSecondsBlockedAfterCall = 4;
 
 int AccountNumber(int property) {
-  const char* text = CZelhostAccountManager::GetInstance()->GetAccountInfo(property);
-  return text != nullptr ? zelhost::ToInt(text) : 0;
+  return zelto::DecimalValue(CZelhostAccountManager::GetInstance()->GetAccountInfo(property));
 }
 
 bool IsSet(int setting) { return CZelhostLocalSetting::GetIntValue(setting) != 0; }

@@ -42,7 +42,7 @@ struct Flag {
 // Seconds as the milliseconds that the operations count in.
 template <int Number>
 struct Seconds {
-  static int From(const CommandCall& call) { return NearestInt(1000LL * call.Int(Number)); }
+  static int From(const CommandCall& call) { return zelto::NearestInt(1000LL * call.Int(Number)); }
 };
 template <auto Value>
 struct Constant {

@@ -1,7 +1,9 @@
-// A command as it was called, and how numbers are read from its texts.
+// A command as it was called.
 #pragma once
 
 #include <string>
+
+#include "Common/DecimalText.h"
 
 namespace zelhost {
 
@@ -17,9 +19,7 @@ class CommandCall {
   // Parameter 1 to 4; never null.
   const char* Parameter(int number) const { return m_texts[number]; }
   bool IsEmpty(int number) const { return *m_texts[number] == '\0'; }
-  // The parameter read as a decimal number by the rules of strtol: 0 when it is none, the nearest int
-  // when it is too large for one.
-  int Int(int number) const;
+  int Int(int number) const { return zelto::DecimalValue(m_texts[number]); }
   bool Flag(int number) const { return Int(number) != 0; }
 
  private:
@@ -27,11 +27,6 @@ class CommandCall {
 
   const char* m_texts[5];
 };
-
-// Reads a text as CommandCall::Int does.
-int ToInt(const char* text);
-// The nearest int.
-int NearestInt(long long value);
 
 // Runs a command. The answer still holds an older one and may be the very text that a parameter points
 // into: it is written once, after the last use of the parameters.

@@ -20,7 +20,8 @@ void CheckMissedCall(const CommandCall&, std::string& answer) {
 }
 
 void OSDTimerExpired(const CommandCall& call, std::string& answer) {
-  const int type = NearestInt(static_cast<long long>(CZeltoManager::WIDGET_OSD_TIMER_EXPIRED) + call.Int(1));
+  const int type =
+      zelto::NearestInt(static_cast<long long>(CZeltoManager::WIDGET_OSD_TIMER_EXPIRED) + call.Int(1));
   CZeltoManager::SendEvent(type, 0);
   answer.clear();
 }

@@ -2,7 +2,6 @@
 #include <algorithm>
 
 #include "Common/CallManager.h"
-#include "Common/DecimalText.h"
 #include "Common/Log.h"
 #include "zelhost/ServiceHostMutex.h"
 #include "zelhost/apiwrapper/client/CZelto.h"

@@ -18,6 +18,7 @@
 #include "Common/ZeltoManager.h"
 #include "apiwrapper/ZESocketTransport.h"
 #include "zelhost/EnginePaths.h"
+#include "zelhost/Television.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
 #include "zelhost/lifecycle/LifeCycleLimits.h"
 #include "zelhost/lifecycle/RuntimeProcess.h"
@@ -29,10 +30,6 @@ using zelhost::ServiceHostLock;
 using zelhost::ServiceHostMutex;
 
 namespace {
-
-bool HostSays(const char* question) {
-  return std::atoi(CZeltoManager::CallCommonControl(question).c_str()) >= 1;
-}
 
 bool IsExecutable(const std::string& path) {
   const std::string place = zelto::DevicePath(path);
@@ -74,8 +71,8 @@ bool CZelhostLifeCycle::Load() {
   ServiceHostLock lock("Load");
   ZELTO_DEBUG("Load Start lock");
   if (m_state == ZELTO_LOADED) return false;
-  const std::string executable =
-      HostSays("SupportDoubleTalk") ? zelhost::kDoubleTalkExecutable : zelhost::kRuntimeExecutable;
+  const std::string executable = zelhost::HostSaysYes("SupportDoubleTalk") ? zelhost::kDoubleTalkExecutable
+                                                                           : zelhost::kRuntimeExecutable;
   if (!IsExecutable(executable) || m_state != ZELTO_UNLOADED) return false;
 
   ZELTO_DEBUG("Change state to ZELTO_LOADING");

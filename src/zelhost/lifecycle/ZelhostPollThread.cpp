@@ -1,11 +1,10 @@
 // The life cycle's own thread: from the launched runtime to the end of its events.
-#include <cstdlib>
-
 #include "Common/Log.h"
 #include "Common/Platform.h"
 #include "Common/ZeltoManager.h"
 #include "apiwrapper/ZESocketTransport.h"
 #include "zelhost/EnginePaths.h"
+#include "zelhost/Television.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
 #include "zelhost/lifecycle/FilteredProperties.h"
 #include "zelhost/lifecycle/LifeCycleLimits.h"
@@ -126,7 +125,7 @@ bool CZelhostLifeCycle::StartRuntime() {
         [socket = m_transport->getSocket()] { zelto::System().Shutdown(socket, SHUT_RDWR); });
   }
   if (!CZelhostLocalSetting::IsInitialized()) CZelhostLocalSetting::Initialize();
-  const bool camera = std::atoi(CZeltoManager::CallCommonControl("IsEmbeddedCamera").c_str()) >= 1;
+  const bool camera = zelhost::HostSaysYes("IsEmbeddedCamera");
   const int result = m_root->Start(true, camera ? kUiVersionWithCamera : kUiVersion);
   zelto::Print("Zelto Engine start UI VERSION: %s\n", kUiVersion);
   if (result != Zelto::START_SUCCESS) {

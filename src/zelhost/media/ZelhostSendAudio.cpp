@@ -6,7 +6,7 @@
 
 #include "Common/Log.h"
 #include "Common/ZeltoManager.h"
-#include "zelhost/commands/CommandCall.h"
+#include "zelhost/Television.h"
 #include "zelhost/media/MediaLimits.h"
 
 namespace {
@@ -41,22 +41,18 @@ constexpr MicrophoneRow kMicrophoneRows[] = {
 constexpr const char* kDistanceNames[] = {"0", "1"};
 // clang-format on
 
-int AskNumber(const char* question, const char* parameter = nullptr) {
-  return zelhost::ToInt(CZeltoManager::CallCommonControl(question, parameter).c_str());
-}
-
 MicrophoneSetup AskMicrophoneSetup() {
   if (CZeltoManager::CallCommonControl("IsCameraBeamFormerEnabled") != "0") {
     zelto::Print("\n Camera BeamFormer\n");
     return {};
   }
-  const int count = AskNumber("GetCameraNumOfMic");
+  const int count = zelhost::AskNumber("GetCameraNumOfMic");
   const auto* row =
       std::find_if(std::begin(kMicrophoneRows), std::end(kMicrophoneRows) - 1,
                    [count](const MicrophoneRow& candidate) { return candidate.count == count; });
   MicrophoneSetup setup = row->setup;
   for (int i = 0; i < row->questions; ++i) {
-    setup.distances[i] = AskNumber("GetCameraMicDistance", kDistanceNames[i]);
+    setup.distances[i] = zelhost::AskNumber("GetCameraMicDistance", kDistanceNames[i]);
   }
   zelto::Print(row->text, setup.distances[0], setup.distances[1]);
   return setup;

@@ -2,9 +2,9 @@
 
 #include <cstddef>
 
+#include "Common/DecimalText.h"
 #include "Common/Log.h"
 #include "Common/ZeltoManager.h"
-#include "zelhost/commands/CommandCall.h"
 
 namespace {
 
@@ -54,7 +54,7 @@ bool WidgetTimers::Arm(int milliseconds, int id) {
   CZeltoAlarm& timer = m_timers[static_cast<std::size_t>(id)];
   const bool ran = timer.m_flagCreate;
   timer.Destroy();
-  timer.Create(zelhost::NearestInt(milliseconds * kMicrosecondsPerMillisecond), &t_WidegtOSDTimerCallback,
+  timer.Create(zelto::NearestInt(milliseconds * kMicrosecondsPerMillisecond), &t_WidegtOSDTimerCallback,
                &kIds[static_cast<std::size_t>(id)], &timer);
   return ran;
 }

@@ -14,8 +14,6 @@ int SendVolume(const char* control, int volume) {
   return sent;
 }
 
-int AskVolume(const char* control) { return zelhost::ToInt(zelhost::Tell(control).c_str()); }
-
 }  // namespace
 
 void CZelhostZeltoManager::SetSpeakerVolume(int volume) { SendVolume("SetSpeakerVolume", volume); }
@@ -27,8 +25,8 @@ void CZelhostZeltoManager::SetTVMixVolume(int volume) {
   CZelhostLocalSetting::SetIntValue(kSettingTvMixRatio, SendVolume("SetMainMixAudioVolume", volume));
 }
 
-int CZelhostZeltoManager::GetSpeakerVolume() { return AskVolume("GetSpeakerVolume"); }
+int CZelhostZeltoManager::GetSpeakerVolume() { return zelhost::AskNumber("GetSpeakerVolume"); }
 int CZelhostZeltoManager::GetCallMixVolume() {
   return CZelhostLocalSetting::GetIntValue(kSettingSpeakerVolume);
 }
-int CZelhostZeltoManager::GetTVMixVolume() { return AskVolume("GetMainMixAudioVolume"); }
+int CZelhostZeltoManager::GetTVMixVolume() { return zelhost::AskNumber("GetMainMixAudioVolume"); }

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <string>
 
+#include "Common/DecimalText.h"
 #include "Common/Log.h"
 #include "Common/ZeltoManager.h"
 #include "apiwrapper/Video.h"
@@ -12,7 +13,6 @@
 #include "zelhost/apiwrapper/client/CZelto.h"
 #include "zelhost/apiwrapper/client/FileBinary.h"
 #include "zelhost/calls/ZelhostCallManager.h"
-#include "zelhost/commands/CommandCall.h"
 
 using E = CZeltoManager;
 
@@ -178,7 +178,7 @@ void CCallMember::OnVoiceLevel(const ZEString& value) {
 
 void CCallMember::OnFailureText(const ZEString& value) {
   const std::string number(value.view().substr(0, value.view().find(' ')));
-  const int failure = zelhost::ToInt(number.c_str());
+  const int failure = zelto::DecimalValue(number.c_str());
   client::Trace(*this, kTraceCallMember, "*************** failNumber %d ************", failure);
   if (const int event = FailureEventOf(failure); event != kNoEvent) E::SendEvent(event, 0);
 }

@@ -1,10 +1,9 @@
-#include "zelhost/commands/CommandCall.h"
+#include "Common/DecimalText.h"
 
 #include <algorithm>
 #include <limits>
 
-namespace zelhost {
-
+namespace zelto {
 namespace {
 
 constexpr bool IsBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
@@ -19,7 +18,8 @@ int NearestInt(long long value) {
 }
 
 // By hand, since most parameters of most commands pass through here and few are longer than two digits.
-int ToInt(const char* text) {
+int DecimalValue(const char* text) {
+  if (text == nullptr) return 0;
   constexpr long long kEnough = 1LL << 40;  // beyond any int; further digits change nothing
   while (IsBlank(*text)) ++text;
   const bool isNegative = *text == '-';
@@ -29,6 +29,4 @@ int ToInt(const char* text) {
   return NearestInt(isNegative ? -value : value);
 }
 
-int CommandCall::Int(int number) const { return ToInt(m_texts[number]); }
-
-}  // namespace zelhost
+}  // namespace zelto
