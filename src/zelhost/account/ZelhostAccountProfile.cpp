@@ -7,6 +7,7 @@
 #include "Common/Log.h"
 #include "Common/ZeltoManager.h"
 #include "zelhost/EnginePaths.h"
+#include "zelhost/PropertyList.h"
 #include "zelhost/SafeFileName.h"
 #include "zelhost/account/AccountProperties.h"
 #include "zelhost/account/ZelhostAccountManager.h"
@@ -60,9 +61,7 @@ bool CZelhostAccountManager::GetAccountAllInfo() {
 }
 
 void CZelhostAccountManager::FetchProperties() {
-  ZEIntList wanted;
-  for (const int property : zelhost::kAccountProperties) wanted.append(property);
-  const ZEIntDict values = ReadyAccount()->GetProps(wanted);
+  const ZEIntDict values = ReadyAccount()->GetProps(zelhost::ListOf(zelhost::kAccountProperties));
   for (const int property : zelhost::kAccountProperties) {
     const ZEString value = values.find(property);
     if (property == Account::P_AVATAR) {

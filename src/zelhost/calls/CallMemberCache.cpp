@@ -4,26 +4,20 @@
 
 #include "Common/Log.h"
 #include "apiwrapper/CallMember.h"
-#include "apiwrapper/ZEIntList.h"
+#include "zelhost/PropertyList.h"
 #include "zelhost/apiwrapper/client/CCall.h"
 
 namespace {
 
-ZEIntList CachedProperties() {
-  ZEIntList properties;
-  for (const int property :
-       {CallMember::P_IDENTITY, CallMember::P_DISPLAY_NAME, CallMember::P_TYPE, CallMember::P_STATUS}) {
-    properties.append(property);
-  }
-  return properties;
-}
+constexpr int kCachedProperties[] = {CallMember::P_IDENTITY, CallMember::P_DISPLAY_NAME, CallMember::P_TYPE,
+                                     CallMember::P_STATUS};
 
 }  // namespace
 
 void CallMemberCache::Rebuild(CCall& call) {
   const ZEPtrVector members = call.GetMembers();
   ZELTO_DEBUG("size of callmember = %d\n", static_cast<int>(members.size()));
-  const ZEIntList properties = CachedProperties();
+  const ZEIntList properties = zelhost::ListOf(kCachedProperties);
   Clear();
   for (unsigned i = 0; i < members.size(); ++i) {
     auto* member = static_cast<CallMember*>(members[i]);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "zelhost/PropertyList.h"
 #include "zelhost/apiwrapper/client/CChatMessage.h"
 #include "zelhost/chats/RecentMessages.h"
 
@@ -17,7 +18,7 @@ void ChatDialog::Fill(const ZEPtrVector& messages) {
   m_messages.reserve(m_messages.size() + messages.size());
   for (unsigned i = 0; i < messages.size(); ++i) {
     CChatMessage* message = zelhost::MessageAt(messages, i);
-    const ZEIntDict values = zelhost::TakeValues(message);
+    const ZEIntDict values = zelhost::TakeValues(*message);
     if (CChatMessage::IsText(values.find(ChatMessage::P_TYPE).toInt())) Append(message);
   }
 }

@@ -1,8 +1,6 @@
 // The messages that the runtime has at hand of a chat.
 #pragma once
 
-#include <utility>
-
 #include "apiwrapper/ZEPtrVector.h"
 #include "apiwrapper/ZEReply.h"
 #include "zelhost/apiwrapper/client/CChatMessage.h"
@@ -14,9 +12,6 @@ namespace zelhost {
 // Slots of CChatMessage, oldest first, each message once, with the values of these properties fetched, in one
 // request for all. False, with a line about it, when the runtime does not tell.
 bool GetRecentMessages(Chat* chat, const ZEIntList& properties, ZEPtrVector& messages);
-
-// The values that were fetched. The message keeps no copy: thousands of them would fill the memory.
-inline ZEIntDict TakeValues(CChatMessage* message) { return std::exchange(message->propCache, {}); }
 
 inline CChatMessage* MessageAt(const ZEPtrVector& messages, unsigned index) {
   return zeObjectAt<CChatMessage>(messages, index);

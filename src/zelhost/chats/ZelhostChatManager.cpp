@@ -4,7 +4,6 @@
 
 #include "Common/Log.h"
 #include "Common/ZeltoManager.h"
-#include "apiwrapper/SearchTerm.h"
 #include "zelhost/PropertyList.h"
 #include "zelhost/apiwrapper/client/CChat.h"
 #include "zelhost/apiwrapper/client/CSearch.h"
@@ -49,10 +48,7 @@ bool CZelhostChatManager::RefreshChatList() {
   ForgetCurrentChat();
   m_ChatList.Clear();
   ZELTO_DEBUG("Send a request for Search::CHAT");
-  auto* search = dynamic_cast<CSearch*>(g_lpZelto->SearchObjects(SearchTerm(Search::CHAT), -1));
-  if (search == nullptr) return false;
-  search->SetSearchType(Search::CHAT);
-  return true;
+  return CSearch::Start(*g_lpZelto, Search::CHAT) != nullptr;
 }
 
 void CZelhostChatManager::ClearChatList() {
@@ -91,7 +87,7 @@ int CZelhostChatManager::GetNumOfUnreadMessages(Chat* chat) {
   int unread = 0;
   for (unsigned i = 0; i < messages.size(); ++i) {
     CChatMessage* message = zelhost::MessageAt(messages, i);
-    if (!IsUnreadText(zelhost::TakeValues(message))) continue;
+    if (!IsUnreadText(zelhost::TakeValues(*message))) continue;
     message->CountAsUnread();
     ++unread;
   }

@@ -69,7 +69,7 @@ const char* CZelhostChatManager::GetMessages(const char* name) {
   zelto::RecordWriter writer(m_strResult);
   for (unsigned i = 0; i < messages.size(); ++i) {
     CChatMessage* message = zelhost::MessageAt(messages, i);
-    const ZEIntDict values = zelhost::TakeValues(message);
+    const ZEIntDict values = zelhost::TakeValues(*message);
     if (IsText(values)) zelhost::WriteMessageWithAuthor(writer, values, values.find(ChatMessage::P_STATUS));
     if (IsUnread(values)) MarkRead(info, message);
   }
@@ -102,7 +102,7 @@ const char* CZelhostChatManager::GetMessages(int start, int end, const char* nam
   zelto::RecordWriter writer(m_strResult);
   for (unsigned i = 0; i < messages.size(); ++i) {
     CChatMessage* message = zelhost::MessageAt(messages, i);
-    const ZEIntDict values = zelhost::TakeValues(message);
+    const ZEIntDict values = zelhost::TakeValues(*message);
     const bool own = IsBy(values.find(ChatMessage::P_AUTHOR), account);
     TraceFields(start + static_cast<int>(i), values);
     if (own) TraceReadElsewhere(message, values);
@@ -129,7 +129,7 @@ const char* CZelhostChatManager::GetRecentMessages(const char* name) {
   zelto::RecordWriter writer(m_strResult);
   for (unsigned i = 0; i < messages.size(); ++i) {
     CChatMessage* message = zelhost::MessageAt(messages, i);
-    const ZEIntDict values = zelhost::TakeValues(message);
+    const ZEIntDict values = zelhost::TakeValues(*message);
     if (IsText(values)) {
       ZELTO_DEBUG("Message %d\n", static_cast<int>(i));
       zelhost::WriteMessage(writer, values, values.find(ChatMessage::P_STATUS));
@@ -146,7 +146,7 @@ bool CZelhostChatManager::SetAllMessagesRead(const char* name) {
   if (chat == nullptr || !zelhost::GetRecentMessages(chat, zelhost::ListOf(kStatus), messages)) return false;
   for (unsigned i = 0; i < messages.size(); ++i) {
     CChatMessage* message = zelhost::MessageAt(messages, i);
-    if (IsUnread(zelhost::TakeValues(message))) message->MarkRead();
+    if (IsUnread(zelhost::TakeValues(*message))) message->MarkRead();
   }
   return true;
 }

@@ -135,11 +135,9 @@ bool CZelhostContactManager::GetContactListInGroup(ContactGroup::TYPE type) {
   return true;
 }
 
-// The proxy's copy of the values, with the picture in it, is not kept: thousands of them would fill the
-// memory.
 void CZelhostContactManager::TakeContact(Contact* contact) {
   static const ZEIntList properties = ListOf(zelhost::kBasicContactProperties);
-  ZEIntDict values = std::exchange(contact->propCache, ZEIntDict());
+  ZEIntDict values = zelhost::TakeValues(*contact);
   const ZEString key = KeyOf(values);
   if (key.isEmpty()) {
     ZELTO_DEBUG("SH: ERROR!!!! EMPTY CONTACT RECEIVED!!!!!!!!!");

@@ -1,6 +1,4 @@
 // Looking for people: in the service's directory, and in the list by an e-mail address.
-#include <utility>
-
 #include "Common/Log.h"
 #include "Common/RecordWriter.h"
 #include "Common/ZeltoManager.h"
@@ -124,7 +122,7 @@ void CZelhostContactManager::TakeEmails(ContactGroup::TYPE type) {
   for (unsigned i = 0; i < members.size(); ++i) {
     auto* contact = zeObjectAt<Contact>(members, i);
     if (contact == nullptr) continue;
-    const ZEIntDict values = std::exchange(contact->propCache, ZEIntDict());
+    const ZEIntDict values = zelhost::TakeValues(*contact);
     if (const CContactInfo* entry = m_ContactList.Find(zelhost::KeyOf(values).view())) {
       m_ContactList.Set(entry, Contact::P_EMAILS, values.find(Contact::P_EMAILS));
     }

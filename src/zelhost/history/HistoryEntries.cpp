@@ -10,9 +10,9 @@
 #include "apiwrapper/Call.h"
 #include "apiwrapper/CallMember.h"
 #include "apiwrapper/Voicemail.h"
-#include "apiwrapper/ZEIntList.h"
 #include "apiwrapper/ZEReply.h"
 #include "apiwrapper/Zelto.h"
+#include "zelhost/PropertyList.h"
 
 namespace zelhost {
 namespace {
@@ -57,13 +57,6 @@ bool IsOneOf(const int (&values)[kCount], int value) {
   return std::find(std::begin(values), std::end(values), value) != std::end(values);
 }
 
-template <class Rows, class PropertyOf>
-ZEIntList ListOf(const Rows& rows, PropertyOf propertyOf) {
-  ZEIntList list;
-  for (const auto& row : rows) list.append(propertyOf(row));
-  return list;
-}
-
 const ZEString& Flag(bool value) {
   static const ZEString yes("1");
   static const ZEString no("0");
@@ -85,9 +78,6 @@ void Take(CHistoryInfo& entry, const Source (&sources)[kCount], const ZEIntDict&
                static_cast<const char*>(entry.Get(source.key)));
   }
 }
-
-// What was fetched for an object; its proxy keeps no copy, thousands of them would fill the memory.
-ZEIntDict TakeProps(ZEObject& object) { return std::exchange(object.propCache, ZEIntDict()); }
 
 // The first member's identity, then those of the others of a conference.
 ZEString MemberNames(const CallMembers& members, bool conference) {
@@ -134,7 +124,7 @@ CallMembers PropertiesOf(const FoundCall& found, const std::vector<CallMember*>&
   CallMembers properties;
   properties.reserve(found.members);
   for (std::size_t i = 0; i < found.members; ++i) {
-    properties.push_back(TakeProps(*members[found.firstMember + i]));
+    properties.push_back(TakeValues(*members[found.firstMember + i]));
   }
   return properties;
 }
@@ -175,18 +165,17 @@ bool SetVoiceMailHistoryProperty(CHistoryInfo& entry, const ZEIntDict& voicemail
 }
 
 HistoryEntries ReadCalls(Zelto& root, const ZEPtrVector& slots) {
-  const ZEIntList callProperties = ListOf(kCallSources, [](const Source& row) { return row.property; });
-  const ZEIntList memberProperties = ListOf(kMemberProperties, [](int property) { return property; });
-
+  ZEIntList callProperties;
+  for (const Source& source : kCallSources) callProperties.append(source.property);
   root.GetMultipleObjectsProps(slots, callProperties);
   std::vector<FoundCall> calls;
   std::vector<CallMember*> members;
   for (Call* call : Present<Call>(slots, "call object is NULL")) {
     const auto own = Present<CallMember>(call->GetMembers(), "call member is NULL");
-    calls.push_back({call, TakeProps(*call), members.size(), own.size()});
+    calls.push_back({call, TakeValues(*call), members.size(), own.size()});
     members.insert(members.end(), own.begin(), own.end());
   }
-  root.GetMultipleObjectsProps(SlotsOf(members), memberProperties);
+  root.GetMultipleObjectsProps(SlotsOf(members), ListOf(kMemberProperties));
 
   HistoryEntries entries;
   entries.reserve(calls.size());
@@ -200,20 +189,19 @@ HistoryEntries ReadCalls(Zelto& root, const ZEPtrVector& slots) {
 }
 
 HistoryEntries ReadVoicemails(Zelto& root, const ZEPtrVector& slots) {
-  root.GetMultipleObjectsProps(slots, ListOf(kVoicemailProperties, [](int property) { return property; }));
+  root.GetMultipleObjectsProps(slots, ListOf(kVoicemailProperties));
   HistoryEntries entries;
   entries.reserve(slots.size());
   for (Voicemail* voicemail : Present<Voicemail>(slots, "voicecall object is NULL")) {
     auto entry = std::make_unique<CHistoryInfo>(voicemail);
-    if (SetVoiceMailHistoryProperty(*entry, TakeProps(*voicemail))) entries.push_back(std::move(entry));
+    if (SetVoiceMailHistoryProperty(*entry, TakeValues(*voicemail))) entries.push_back(std::move(entry));
   }
   return entries;
 }
 
 std::unique_ptr<CHistoryInfo> ReadVoicemail(Voicemail* voicemail) {
   auto entry = std::make_unique<CHistoryInfo>(voicemail);
-  const ZEIntList properties = ListOf(kVoicemailProperties, [](int property) { return property; });
-  if (!SetVoiceMailHistoryProperty(*entry, voicemail->GetProps(properties))) return nullptr;
+  if (!SetVoiceMailHistoryProperty(*entry, voicemail->GetProps(ListOf(kVoicemailProperties)))) return nullptr;
   return entry;
 }
 

@@ -1,11 +1,10 @@
 #include "zelhost/history/HistoryInfo.h"
 
-#include <algorithm>
 #include <cstdlib>
 
-#include "Common/LocalTime.h"
 #include "apiwrapper/Call.h"
 #include "apiwrapper/Voicemail.h"
+#include "zelhost/LocalTimeLine.h"
 
 CHistoryInfo::CHistoryInfo(Type type, ZEObject* object)
     : m_type(type), m_pObject(object), m_nObjectId(object->getOID()) {
@@ -37,10 +36,7 @@ void CHistoryInfo::Set(KEY key, const ZEString& value) {
 
 ZEString CHistoryInfo::LocalTime() const {
   if (m_nTimestamp == 0) return "0";
-  char text[zelto::kLocalTimeSize];
-  zelto::ConvertToLocalTime12(static_cast<unsigned long>(m_nTimestamp), text, 0);
-  const char* end = std::find(text, std::end(text), '\n');
-  return ZEString(text, static_cast<unsigned int>(end - text));
+  return ZEString(zelhost::LocalTimeLine(static_cast<unsigned long>(m_nTimestamp)).view());
 }
 
 bool CHistoryInfo::IsMissedCall() const {

@@ -1,5 +1,6 @@
 #include "zelhost/apiwrapper/client/CChat.h"
 
+#include "zelhost/PropertyList.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
 #include "zelhost/chats/ZelhostChatManager.h"
 #include "zelhost/contacts/ZelhostContactManager.h"
@@ -18,9 +19,8 @@ CChat::~CChat() {
 void CChat::OnChange(int property, const ZEString& value) {
   ClientObject::OnChange(property, value);
   if (property != P_MYSTATUS || value.toInt() != kStatusEnded) return;
-  ZEIntList wanted;
-  for (const int asked : {P_TYPE, P_DIALOG_PARTNER}) wanted.append(asked);
-  const ZEIntDict values = GetProps(wanted);
+  constexpr int kWanted[] = {P_TYPE, P_DIALOG_PARTNER};
+  const ZEIntDict values = GetProps(zelhost::ListOf(kWanted));
   if (values.find(P_TYPE).toInt() != TYPE_DIALOG) return;
   if (CZelhostContactManager::GetInstance()->IsBlocked(values.find(P_DIALOG_PARTNER))) Delete();
 }

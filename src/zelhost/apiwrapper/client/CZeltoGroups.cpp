@@ -5,6 +5,7 @@
 #include "apiwrapper/ZEPMap.h"
 #include "apiwrapper/ZEReply.h"
 #include "apiwrapper/tables/EnumMaps.h"
+#include "zelhost/PropertyList.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
 
 namespace {
@@ -45,12 +46,9 @@ void CZelto::HandleSomeContactGroups() {
 void CZelto::HandleContactGroup(ContactGroup* group, PARAM mode) {
   if (group == nullptr) return;
   const ZEPtrVector contacts = group->GetContacts();
-  ZEIntList wanted;
-  for (const int property :
-       {Contact::P_DISPLAY_NAME, Contact::P_IDENTITY, Contact::P_PHONE_NUMBER, Contact::P_AVAILABILITY}) {
-    wanted.append(property);
-  }
-  GetMultipleObjectsProps(contacts, wanted);
+  constexpr int kWanted[] = {Contact::P_DISPLAY_NAME, Contact::P_IDENTITY, Contact::P_PHONE_NUMBER,
+                             Contact::P_AVAILABILITY};
+  GetMultipleObjectsProps(contacts, zelhost::ListOf(kWanted));
   if (mode == kGroupsTrace) TraceGroup(group, contacts);
   if (mode == kGroupsDelete) DeleteGroup(group, contacts);
 }
