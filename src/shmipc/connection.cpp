@@ -77,7 +77,12 @@ int SHMIPC_wait_for_connection(SHMIPC_channel_t* channel, int timeout) {
   const shmipc::SegmentHeader& header = shmipc::HeaderOf(channel);
   const std::uint32_t& other =
       channel->sender_initialized != 0 ? header.receiverAttached : header.senderAttached;
-  return lock.Outside([&] { return shmipc::Wait(timeout, shmipc::kConnectionStep).ForChange(other, 0); });
+  shmipc::Wait wait(timeout, shmipc::kConnectionStep);
+  while (shmipc::ReadWord(other) == 0) {
+    const int result = lock.Outside([&] { return wait.Step(); });
+    if (result != 0) return result;
+  }
+  return 0;
 }
 
 void SHMIPC_disable_locking(SHMIPC_channel_t* channel) {

@@ -11,8 +11,8 @@ extern "C" {
  * another process opens a channel. Threads: any. */
 void SHMIPC_remove_leftovers(void);
 
-/* Creates the key file when there is none and removes what nobody is attached to under its keys: a new file can
- * have the number, and so the keys, of one that a killed process once had. Threads: any. */
+/* Creates the key file when there is none and removes what nobody is attached to under its keys: a new file
+ * can have the number, and so the keys, of one that a killed process once had. Threads: any. */
 void SHMIPC_claim_keys(void);
 
 #ifdef __cplusplus

@@ -61,8 +61,7 @@ int WaitForRoom(SHMIPC_channel_t* channel, ChannelLock& lock, std::uint64_t foot
     if (!ReadOffsets(channel, offsets)) return -1;
     // The ring is never filled to the last unit: equal offsets mean that it is empty.
     if (footprint < channel->ring_size - UnreadSize(channel, *offsets)) return 0;
-    const int result =
-        lock.Outside([&] { return wait.ForChange(HeaderOf(channel).readOffset, offsets->read); });
+    const int result = lock.Outside([&] { return wait.Step(); });
     if (result != 0) return result;
   }
 }
@@ -88,8 +87,7 @@ int WaitForBatch(SHMIPC_channel_t* channel, ChannelLock& lock, int timeout) {
       FillBatch(channel, offsets);
       continue;
     }
-    const int result =
-        lock.Outside([&] { return wait.ForChange(HeaderOf(channel).writeOffset, offsets.write); });
+    const int result = lock.Outside([&] { return wait.Step(); });
     if (result != 0) return result;
   }
   return 0;

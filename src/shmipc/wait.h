@@ -1,4 +1,4 @@
-// Waiting for the other process: by looking at a word in growing steps.
+// Waiting for the other process: in growing steps.
 #pragma once
 
 #include <cstdint>
@@ -11,24 +11,29 @@ constexpr int kLongestTimeout = 2000;
 
 constexpr int kTimedOut = -4;
 
-// The patience of one operation. It may have to wait for several changes of a word before it finds what it
-// needs; whatever the other side makes of the word, the waits together end soon after the timeout.
+// Steps double from 65 microseconds, which a fast partner needs, to 4 milliseconds, which an idle
+// processor can bear.
+constexpr int kFirstExponent = 16;
+constexpr int kLastExponent = 22;
+
+// The patience of one operation, which looks after every step whether what it waits for has come about. It
+// looks at that itself, not for a change of a word: other threads of this process can bring a word all the
+// way round to where it was.
 class Wait {
  public:
   // `floor`: the shortest step in nanoseconds, 0 for none.
   explicit Wait(int timeout, std::int64_t floor = 0) : m_timeout(timeout), m_floor(floor) {}
 
-  // Returns when the word differs from `seen`: 0, or kTimedOut.
-  int ForChange(const std::uint32_t& word, std::uint32_t seen);
+  // Sleeps one step: 0, or kTimedOut, without sleeping, when all steps together have made the timeout.
+  int Step();
 
  private:
-  bool IsOver();
-  int InSteps(const std::uint32_t& word, std::uint32_t seen, std::int64_t total) const;
-  std::int64_t Step(int exponent, std::int64_t cap) const;
+  std::int64_t Length(std::int64_t cap) const;
 
   const int m_timeout;
   const std::int64_t m_floor;
-  std::int64_t m_start = -1;  // on the platform's clock, once the first wait has begun
+  int m_exponent = kFirstExponent;
+  std::int64_t m_slept = 0;
 };
 
 }  // namespace shmipc

@@ -85,6 +85,39 @@ TEST_F(ARing, IsSharedByThreadsOfOneProcess) {
   EXPECT_EQ(received, sent);
 }
 
+// In the first step of the wait other threads of both processes move the offsets all the way round to where
+// the waiting one saw them.
+TEST_F(ARing, HasRoomForAWaitingSenderAfterAWholeRoundOfOthers) {
+  Connect(1024);
+  for (std::uint32_t type = 1; type <= 3; ++type) ASSERT_EQ(Send(m_sender, type, std::string(296, 'f')), 0);
+  test::SleepRecorder others;
+  others.afterStep = [&] {
+    if (others.steps.size() != 1) return;
+    for (int taken = 0; taken < 3; ++taken) Receive(m_receiver);
+    EXPECT_EQ(Send(m_sender, 4, std::string(104, 'r')), 0);
+    EXPECT_EQ(Receive(m_receiver), "4:" + std::string(104, 'r'));
+    EXPECT_EQ(HeaderOf(m_sender).readOffset, 0u);
+  };
+  EXPECT_EQ(Send(m_sender, 5, std::string(296, 'w'), 100), 0);
+  EXPECT_EQ(others.steps.size(), 1u);
+}
+
+TEST_F(ARing, LeavesAWaitingReceiverWhatOthersHaveTakenButNotRead) {
+  Connect(1024);
+  test::SleepRecorder others;
+  others.afterStep = [&] {
+    if (others.steps.size() != 1) return;
+    EXPECT_EQ(Send(m_sender, 1, std::string(504, 'f')), 0);
+    EXPECT_EQ(Receive(m_receiver), "1:" + std::string(504, 'f'));
+    EXPECT_EQ(Send(m_sender, 2, std::string(248, 's')), 0);
+    EXPECT_EQ(Send(m_sender, 3, std::string(248, 't')), 0);
+    EXPECT_EQ(Receive(m_receiver), "2:" + std::string(248, 's'));
+    EXPECT_EQ(HeaderOf(m_sender).writeOffset, 0u);
+  };
+  EXPECT_EQ(Receive(m_receiver, 100), "3:" + std::string(248, 't'));
+  EXPECT_EQ(others.steps.size(), 1u);
+}
+
 #ifndef __SANITIZE_ADDRESS__  // which takes the stack of a cancelled thread for a corrupted one
 
 void* WaitForEver(void* channel) {
