@@ -44,8 +44,6 @@ static_assert(sizeof kHandledEvents / sizeof kHandledEvents[0] == 36, "the call 
 
 constexpr char kMemberTypeAfterRefusal[] = "4";
 
-void NotifyRingStopped() { E::NotifyHardwiredEvent(E::PUBLIC_RING_STOPPED, nullptr, nullptr); }
-
 }  // namespace
 
 void CZelhostCallManager::Init() {
@@ -138,6 +136,10 @@ bool CZelhostCallManager::StopRingForCall() {
   }
   NotifyRingStopped();
   return true;
+}
+
+void CZelhostCallManager::NotifyRingStopped() {
+  E::NotifyHardwiredEvent(E::PUBLIC_RING_STOPPED, nullptr, nullptr);
 }
 
 void CZelhostCallManager::StopRing(const CZeltoEvent&) { NotifyRingStopped(); }

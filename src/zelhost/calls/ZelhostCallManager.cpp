@@ -19,18 +19,12 @@ namespace {
 constexpr int kSignedIn = 2;                      // login state
 constexpr char kOverProgramme[] = "TVModeAudio";  // how a widget starts that leaves the programme visible
 
-CZelhostZeltoManager& Widget() { return *CZelhostZeltoManager::GetInstance(); }
-
 bool IsSignedIn() {
   return g_lpZelto != nullptr && g_lpZelto->m_lpActiveAccount != nullptr &&
          CZelhostAccountManager::GetInstance()->GetLoginState() == kSignedIn;
 }
 
 int CallTypeOf(int asked) { return asked == kVideoCall ? kVideoCall : kVoiceCall; }
-
-void NotifyRingStopped() {
-  CZeltoManager::NotifyHardwiredEvent(CZeltoManager::PUBLIC_RING_STOPPED, nullptr, nullptr);
-}
 
 }  // namespace
 

@@ -6,13 +6,14 @@
 
 #include "Common/CallManagerImp.h"
 #include "apiwrapper/CallMember.h"
-#include "zelhost/ManagerInstance.h"
 #include "zelhost/ManagerAlarm.h"
+#include "zelhost/ManagerInstance.h"
 #include "zelhost/calls/CallMemberCache.h"
 #include "zelhost/calls/CallState.h"
 #include "zelhost/calls/VideoLayout.h"
 
 class CCall;
+class CZelhostZeltoManager;
 
 // A call that nobody answered.
 struct t_MissedCallInfo {
@@ -175,6 +176,8 @@ class CZelhostCallManager : public CCallManagerImp {
   static bool t_UnblockIncomingCallAlarmCallback(const void* number);
 
   // Television and media.
+  static CZelhostZeltoManager& Widget();
+  static void NotifyRingStopped();
   static bool IsWidgetBesideProgramme();
   void TellHostCallStarted() ZELTO_REQUIRES(Host::Get());
   void ShowCallInWidget() ZELTO_REQUIRES(Host::Get());

@@ -9,13 +9,7 @@ using zelhost::Decimal;
 using zelhost::HostSaysYes;
 using zelhost::Tell;
 
-namespace {
-
-constexpr int kLoudest = 100;
-
-CZelhostZeltoManager& Widget() { return *CZelhostZeltoManager::GetInstance(); }
-
-}  // namespace
+CZelhostZeltoManager& CZelhostCallManager::Widget() { return *CZelhostZeltoManager::GetInstance(); }
 
 void CZelhostCallManager::TellHostCallStarted() {
   const int widget = Widget().GetZeltoWidgetMode();
@@ -35,7 +29,7 @@ void CZelhostCallManager::ShowCallInWidget() {
     Tell("SetMainMixAudioVolume", Decimal(CZelhostLocalSetting::GetIntValue(kSettingTvMixRatio)).Text());
   }
   Tell("MuteSpeakerVolume", "0");
-  Widget().SetCallMixVolume(kLoudest);
+  Widget().SetCallMixVolume(CZelhostZeltoManager::kLoudest);
   m_state.hostCallStarted = true;
 }
 
@@ -44,7 +38,7 @@ void CZelhostCallManager::ShowCallOverProgramme() {
   ChangeSourceMode("1");
   Tell("StartCallWithTV");
   m_state.hostCallStarted = true;
-  Widget().SetCallMixVolume(kLoudest);
+  Widget().SetCallMixVolume(CZelhostZeltoManager::kLoudest);
 }
 
 // A call that was never placed or answered has changed nothing on the television that would be restored.
@@ -60,10 +54,10 @@ void CZelhostCallManager::RestoreTelevision() {
   TellHostToStopCall();
   if (Widget().GetZeltoWidgetMode() != kWidgetFullScreen) {
     Tell("MuteReceiverSound", "0");
-    Widget().SetTVMixVolume(kLoudest);
+    Widget().SetTVMixVolume(CZelhostZeltoManager::kLoudest);
   } else if (HostSaysYes("SupportDoubleTalk")) {
     Widget().SetTVAudioMixed(false);
-    Tell("SetMainMixAudioVolume", Decimal(kLoudest).Text());
+    Tell("SetMainMixAudioVolume", Decimal(CZelhostZeltoManager::kLoudest).Text());
   }
 }
 

@@ -1,16 +1,13 @@
 // When a notice must stay away: while the widget or a call is on the screen.
-#include "Common/CallManager.h"
+#include "Common/EventReactionSteps.h"
 #include "Common/Log.h"
 #include "Common/ZeltoManager.h"
 #include "zelhost/ZelhostZeltoManager.h"
 #include "zelhost/settings/ZelhostLocalSetting.h"
 
-namespace {
+using zelto::reactions::IsCallUp;
 
-bool IsInCall() {
-  zelhost::ServiceHostLock lock("IsInCall");
-  return CCallManager::HasManager() && CCallManager::GetInstance()->IsInCall();
-}
+namespace {
 
 bool Allow(const char* notice) {
   ZELTO_DEBUG("Please Show [%s] Noti ", notice);
@@ -26,13 +23,13 @@ bool Refuse(const char* notice, const char* reason) {
 
 bool CZelhostZeltoManager::CheckShowSignedInPopup() {
   if (!m_loggedIn || !m_online || m_signinPopupShown.exchange(true)) return false;
-  if (IsInCall()) return Refuse("SignIn", "call");
+  if (IsCallUp()) return Refuse("SignIn", "call");
   if (GetZeltoWidgetState()) return Refuse("SignIn", "widget ");
   return Allow("SignIn");
 }
 
 bool CZelhostZeltoManager::CheckShowOnlinePopup() {
-  if (IsInCall()) return Refuse("Online", "call");
+  if (IsCallUp()) return Refuse("Online", "call");
   if (GetZeltoWidgetState()) return Refuse("Online", "widget ");
   if (CZelhostLocalSetting::GetIntValue(kSettingNotificationPopup) == 0) return Refuse("Online", "disabled ");
   return Allow("Online");
@@ -40,7 +37,7 @@ bool CZelhostZeltoManager::CheckShowOnlinePopup() {
 
 bool CZelhostZeltoManager::CheckShowCallDurationPopup() {
   if (GetZeltoWidgetState() || CZeltoManager::IsWidgetStarted()) return false;
-  return IsInCall() || Refuse("Call Duration", "is not calling");
+  return IsCallUp() || Refuse("Call Duration", "is not calling");
 }
 
 bool CZelhostZeltoManager::CheckShowCallEndedPopup() {
