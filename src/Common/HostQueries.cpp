@@ -3,6 +3,7 @@
 #include "Common/AccountManager.h"
 #include "Common/ContactManager.h"
 #include "Common/DecimalText.h"
+#include "Common/DefaultPictures.h"
 #include "Common/HistoryManager.h"
 #include "Common/Log.h"
 #include "Common/RecordWriter.h"
@@ -15,7 +16,6 @@ using zelhost::ServiceHostLock;
 
 constexpr int kSignedIn = 2;         // a login state
 constexpr int kAccountIdentity = 1;  // a property of the account
-constexpr int kFemale = 2;           // a gender
 constexpr int kUnknownStatus = -1;
 
 enum ContactField {
@@ -45,10 +45,6 @@ enum RecentCallKind {
   kKindOutgoing = 3,
   kKindVoicemail = 4
 };
-
-constexpr char kPhoneAvatar[] = "/mtd_rwcommon/moip/engines/Zelto/Resource/Avatar_PSTN.png";
-constexpr char kMaleAvatar[] = "/mtd_rwcommon/moip/engines/Zelto/Resource/Zelto_default_male.PNG";
-constexpr char kFemaleAvatar[] = "/mtd_rwcommon/moip/engines/Zelto/Resource/Zelto_default_female.PNG";
 
 // Copies an answer while it is valid. False for null.
 bool Take(const char* answer, std::string& text) {
@@ -90,14 +86,14 @@ bool TakeContactName(int index, std::string& id, bool& isPhone) {
 }
 
 std::string AvatarOf(const std::string& id, bool isPhone) {
-  if (isPhone) return kPhoneAvatar;
+  if (isPhone) return kPhonePicture;
   CContactManager* contacts = CContactManager::GetInstance();
   std::string path;
   if (Take(contacts->GetContactImage(id.c_str()), path)) return path;
   ZELTO_WARNING("no avatar for contact[%s]\n", id.c_str());
   const char* gender = contacts->GetContactInfo(id.c_str(), kContactGender);
   if (gender == nullptr) ZELTO_FATAL("Fail to get gender");
-  return DecimalValue(gender) == kFemale ? kFemaleAvatar : kMaleAvatar;
+  return PictureForGender(DecimalValue(gender));
 }
 
 bool TakePhone(const std::string& id, ContactField field, const char* failure, std::string& number) {

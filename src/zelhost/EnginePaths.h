@@ -18,4 +18,7 @@ inline constexpr char kBackupFolder[] = "/mtd_down/moip/engines/Zelto";
 inline constexpr char kBackupAccountFolder[] = "/mtd_down/moip/engines/Zelto/.Zelto";
 inline constexpr char kProfilePictureCopy[] = "/mtd_rwcommon/moip/profile_temp.jpg";
 
+// What stands before a path that the widget loads from.
+inline constexpr char kFileLocation[] = "file://";
+
 }  // namespace zelhost

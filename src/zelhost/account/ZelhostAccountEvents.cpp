@@ -10,6 +10,7 @@
 #include "zelhost/apiwrapper/client/CAccount.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
 #include "zelhost/chats/ZelhostChatManager.h"
+#include "zelhost/contacts/ContactProperties.h"
 #include "zelhost/contacts/ZelhostContactManager.h"
 #include "zelhost/history/ZelhostHistoryManager.h"
 #include "zelhost/lifecycle/ZelhostLifeCycle.h"
@@ -23,8 +24,6 @@ constexpr CZeltoManager::EVENT_TYPE kHandledEvents[] = {
     CZeltoManager::ACCOUNT_CBL_SYNC_FAILED, CZeltoManager::ACCOUNT_LOGGED_OUT,
     CZeltoManager::ACCOUNT_COMMITTED,       CZeltoManager::ACCOUNT_COMMITTING,
     CZeltoManager::ACCOUNT_COMMIT_FAILED};
-
-constexpr char kSoundTestName[] = "sndtest";
 
 void RefreshHistoryAndChats() {
   CZelhostHistoryManager::GetInstance()->RefreshHistoryList();
@@ -123,8 +122,8 @@ bool CZelhostAccountManager::AddSndtest() {
   ServiceHostLock lock("AddSndtest");
   if (!IsReady()) return false;
   const ZEString group = ZEPMap(CONTACTGROUP_TYPE_MAP).map(ContactGroup::ZELTO_BUDDIES);
-  g_lpZelto->AddRemoveContact(group, kSoundTestName, false, true);
-  Contact* contact = g_lpZelto->GetContact(kSoundTestName);
+  g_lpZelto->AddRemoveContact(group, zelhost::kSoundTestName, false, true);
+  Contact* contact = g_lpZelto->GetContact(zelhost::kSoundTestName);
   if (contact == nullptr) {
     ZELTO_DEBUG("lpContact is Null");
     return false;

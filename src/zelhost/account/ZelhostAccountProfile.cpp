@@ -22,8 +22,6 @@ namespace {
 
 constexpr char kTelevisionFiles[] = "/mtd";  // where every file of the television lies
 
-std::string FileLocation(const std::string& path) { return "file://" + path; }
-
 template <std::size_t kCount>
 bool Lists(const int (&list)[kCount], int value) {
   return std::find(std::begin(list), std::end(list), value) != std::end(list);
@@ -129,7 +127,7 @@ bool CZelhostAccountManager::SetAvatar(const ZEString& image) {
     return false;
   }
   const std::string path = OwnAvatarPath();
-  m_cache.SetInfo(Account::P_AVATAR, FileLocation(path));
+  m_cache.SetInfo(Account::P_AVATAR, zelhost::kFileLocation + path);
   C_BinToFile(image, path.c_str(), false);
   C_BinToFile(image, zelhost::kProfilePictureCopy, false);
   return true;
@@ -156,7 +154,7 @@ bool CZelhostAccountManager::SetAvatarFromFile(const char* location) {
   ReadyAccount()->SetProp(Account::P_AVATAR, image);
   const std::string path = OwnAvatarPath();
   if (!image.isEmpty()) C_BinToFile(image, path.c_str(), false);
-  m_cache.SetInfo(Account::P_AVATAR, FileLocation(path));
+  m_cache.SetInfo(Account::P_AVATAR, zelhost::kFileLocation + path);
   CZeltoManager::SendEvent(CZeltoManager::ACCOUNT_AVATAR_CHANGED, 0);
   return true;
 }

@@ -1,6 +1,7 @@
 #include "zelhost/contacts/ContactPicture.h"
 
 #include "Common/Log.h"
+#include "zelhost/EnginePaths.h"
 #include "zelhost/SafeFileName.h"
 #include "zelhost/apiwrapper/client/FileBinary.h"
 

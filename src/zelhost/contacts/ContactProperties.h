@@ -8,6 +8,9 @@
 
 namespace zelhost {
 
+// The service's own contact, whom everybody may call to hear themselves.
+inline constexpr char kSoundTestName[] = "sndtest";
+
 // What is fetched for every contact, in the order of the request.
 inline constexpr int kBasicContactProperties[] = {
     Contact::P_IDENTITY, Contact::P_DISPLAY_NAME, Contact::P_AVAILABILITY,

@@ -119,15 +119,13 @@ bool CZelhostContactManager::GetContactListInGroup(ContactGroup::TYPE type) {
     ZELTO_DEBUG("%s: contact info not available now \n", "GetContactListInGroup");
     return false;
   }
-  ContactGroup* group = g_lpZelto->GetHardwiredContactGroup(type);
-  if (group == nullptr) {
+  ZEPtrVector contacts;
+  if (!FetchMembers(type, ListOf(zelhost::kBasicContactProperties), contacts)) {
     ZELTO_DEBUG("%s: fail to get hardwired group %d\n", "GetContactListInGroup", type);
     return false;
   }
-  const ZEPtrVector contacts = group->GetContacts();
   ZELTO_DEBUG("%s: hardwired group[%d] has %d contacts\n", "GetContactListInGroup", type,
               static_cast<int>(contacts.size()));
-  g_lpZelto->GetMultipleObjectsProps(contacts, ListOf(zelhost::kBasicContactProperties));
   for (unsigned i = 0; i < contacts.size(); ++i) {
     auto* contact = zeObjectAt<Contact>(contacts, i);
     if (contact != nullptr) TakeContact(contact);

@@ -150,7 +150,8 @@ class CZelhostContactManager : public CContactManagerImp {
   static Contact* KnownContact(const char* operation, const char* identity);
   // Fetches properties of a hardwired group's members into their caches; false without the group.
   static bool FetchMembers(ContactGroup::TYPE type, const ZEIntList& properties, ZEPtrVector& members);
-  void ShowChanged(const CContactInfo* entry);
+  // Under the key when there is no name, in the place that this gives it.
+  void SetDisplayName(const CContactInfo* entry, const ZEString& name);
   void FetchEmails();
   void TakeEmails(ContactGroup::TYPE type);
 

@@ -40,11 +40,6 @@ Contact* CZelhostContactManager::KnownContact(const char* operation, const char*
   return contact;
 }
 
-void CZelhostContactManager::ShowChanged(const CContactInfo* entry) {
-  m_ContactList.Place(entry);
-  CZeltoManager::SendEvent(CZeltoManager::CONTACT_UPDATED, 0);
-}
-
 bool CZelhostContactManager::AddContact(const char* identity, const char* message) {
   ServiceHostLock lock("AddContact");
   Contact* contact = KnownContact("AddContact", identity);
@@ -76,9 +71,8 @@ bool CZelhostContactManager::Rename(const char* identity, const char* displayNam
   contact->GiveDisplayName(displayName);
   const CContactInfo* entry = FindEntry(identity);
   if (entry == nullptr) return false;
-  m_ContactList.Set(entry, Contact::P_DISPLAY_NAME,
-                    *displayName == '\0' ? entry->Key() : ZEString(displayName));
-  ShowChanged(entry);
+  SetDisplayName(entry, displayName);
+  CZeltoManager::SendEvent(CZeltoManager::CONTACT_UPDATED, 0);
   return true;
 }
 
@@ -99,7 +93,7 @@ bool CZelhostContactManager::SetAssignedPhoneNumber(const char* identity, unsign
   ZELTO_DEBUG("MapIndex = %d ", property - Contact::P_ASSIGNED_PHONE1);
   m_ContactList.Set(entry, property, TextOf(number));
   m_ContactList.Set(entry, property + 1, TextOf(type));
-  ShowChanged(entry);
+  CZeltoManager::SendEvent(CZeltoManager::CONTACT_UPDATED, 0);
   return true;
 }
 

@@ -2,24 +2,14 @@
 #include <algorithm>
 
 #include "Common/CallManager.h"
+#include "Common/DefaultPictures.h"
 #include "Common/Log.h"
+#include "zelhost/EnginePaths.h"
 #include "zelhost/ServiceHostMutex.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
-#include "zelhost/contacts/ContactPicture.h"
 #include "zelhost/contacts/ZelhostContactManager.h"
 
 using zelhost::ServiceHostLock;
-
-namespace {
-
-constexpr char kPhonePicture[] = "/mtd_rwcommon/moip/engines/Zelto/Resource/Avatar_PSTN.png";
-constexpr char kSoundTestPicture[] = "/mtd_rwcommon/moip/engines/Zelto/Resource/Avatar_EchoTest.png";
-constexpr char kMalePicture[] = "/mtd_rwcommon/moip/engines/Zelto/Resource/Zelto_default_male.PNG";
-constexpr char kFemalePicture[] = "/mtd_rwcommon/moip/engines/Zelto/Resource/Zelto_default_female.PNG";
-constexpr char kSoundTestName[] = "sndtest";
-constexpr int kFemale = 2;
-
-}  // namespace
 
 const char* CZelhostContactManager::Result(std::string_view text) {
   m_strResult = text;
@@ -203,11 +193,11 @@ const char* CZelhostContactManager::GetContactImage(const char* name) {
         scheme == std::string_view::npos ? text : text.substr(scheme + sizeof zelhost::kFileLocation - 1);
     ZELTO_DEBUG("contact image path = %s\n", m_strContactImage.c_str());
   } else if (!entry.Get(Contact::P_PHONE_NUMBER).isEmpty()) {
-    m_strContactImage = kPhonePicture;
-  } else if (std::string_view(name) == kSoundTestName) {
-    m_strContactImage = kSoundTestPicture;
+    m_strContactImage = zelto::kPhonePicture;
+  } else if (std::string_view(name) == zelhost::kSoundTestName) {
+    m_strContactImage = zelto::kSoundTestPicture;
   } else {
-    m_strContactImage = entry.Get(Contact::P_GENDER).toInt() == kFemale ? kFemalePicture : kMalePicture;
+    m_strContactImage = zelto::PictureForGender(entry.Get(Contact::P_GENDER).toInt());
   }
   return m_strContactImage.c_str();
 }

@@ -13,7 +13,6 @@ using zelhost::ServiceHostLock;
 
 namespace {
 
-constexpr char kSoundTestName[] = "sndtest";
 constexpr int kOnline = 7;  // an availability
 
 void SendEvent(int type, int param = 0) { CZeltoManager::SendEvent(type, param); }
@@ -91,7 +90,7 @@ void CZelhostContactManager::OnAvailability(const Change& change) {
     m_ContactList.SetCategory(entry, category);
     m_ContactList.Place(entry);
   }
-  const bool isSoundTest = std::string_view(change.name) == kSoundTestName;
+  const bool isSoundTest = std::string_view(change.name) == zelhost::kSoundTestName;
   if (availability == kOnline && !CZeltoManager::GetZeltoWidgetState() && !isSoundTest) {
     const ZEString& shown = entry->Get(Contact::P_DISPLAY_NAME);
     m_strOnlinedContact = shown.isEmpty() ? m_strStateChangedContact : shown.view();
@@ -99,13 +98,15 @@ void CZelhostContactManager::OnAvailability(const Change& change) {
   SendEvent(CZeltoManager::CONTACT_STATUS_CHANGED, availability);
 }
 
+void CZelhostContactManager::SetDisplayName(const CContactInfo* entry, const ZEString& name) {
+  const ZEString shown = name.isEmpty() ? entry->Key() : name;
+  if (entry->Get(Contact::P_DISPLAY_NAME).view() == shown.view()) return;
+  m_ContactList.Set(entry, Contact::P_DISPLAY_NAME, shown);
+  m_ContactList.Place(entry);
+}
+
 void CZelhostContactManager::OnDisplayName(const Change& change) {
-  // Nobody is shown without a name.
-  const ZEString name = change.value.isEmpty() ? change.entry->Key() : change.value;
-  if (change.entry->Get(Contact::P_DISPLAY_NAME).view() != name.view()) {
-    m_ContactList.Set(change.entry, Contact::P_DISPLAY_NAME, name);
-    m_ContactList.Place(change.entry);
-  }
+  SetDisplayName(change.entry, change.value);
   SendEvent(CZeltoManager::CONTACT_UPDATED, Contact::P_DISPLAY_NAME);
 }
 

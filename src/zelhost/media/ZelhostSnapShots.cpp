@@ -13,6 +13,7 @@
 #include "Common/RecordWriter.h"
 #include "Common/Shell.h"
 #include "Common/ZeltoManager.h"
+#include "zelhost/EnginePaths.h"
 #include "zelhost/media/ZelhostIPCManager.h"
 
 using zelhost::ServiceHostLock;
@@ -98,7 +99,7 @@ const char* CZelhostIPCManager::GetSnapShotPathList() {
   ServiceHostLock lock("GetSnapShotPathList");
   m_snapShots.clear();
   zelto::RecordWriter list(m_snapShots);
-  for (const std::string& name : SnapShots()) list.Field("file://" + PathOf(name));
+  for (const std::string& name : SnapShots()) list.Field(zelhost::kFileLocation + PathOf(name));
   ZELTO_DEBUG("%s: %s\n", "GetSnapShotPathList", m_snapShots.c_str());
   return m_snapShots.c_str();
 }
