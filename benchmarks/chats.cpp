@@ -145,20 +145,16 @@ void ReadPage(benchmark::State& state, int messages) {
 }
 
 template <class Dialog>
-void Register(const std::string& name) {
+bool Register(const std::string& name) {
   for (const int messages : {1000, 10'000}) {
     const std::string suffix = name + std::to_string(messages);
     benchmark::RegisterBenchmark(("OpenChat/" + suffix).c_str(), Open<Dialog>, messages)->UseManualTime();
     benchmark::RegisterBenchmark(("ChatPage/" + suffix).c_str(), ReadPage<Dialog>, messages);
   }
+  return true;
 }
+[[maybe_unused]] const bool g_registered = Register<Ours>("zelto") && Register<Peer>("multi_index");
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  Register<Ours>("zelto");
-  Register<Peer>("multi_index");
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-}
+BENCHMARK_MAIN();

@@ -180,21 +180,17 @@ void Change(benchmark::State& state, int contacts) {
 }
 
 template <class List>
-void Register(const std::string& name) {
+bool Register(const std::string& name) {
   for (const int contacts : {100, 1000, 10'000, 50'000}) {
     const std::string suffix = name + std::to_string(contacts);
     benchmark::RegisterBenchmark(("BuildContacts/" + suffix).c_str(), Build<List>, contacts)->UseManualTime();
     benchmark::RegisterBenchmark(("ContactPage/" + suffix).c_str(), ReadPage<List>, contacts);
     benchmark::RegisterBenchmark(("PresenceChange/" + suffix).c_str(), Change<List>, contacts);
   }
+  return true;
 }
+[[maybe_unused]] const bool g_registered = Register<Ours>("zelto") && Register<Peer>("multi_index");
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  Register<Ours>("zelto");
-  Register<Peer>("multi_index");
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-}
+BENCHMARK_MAIN();

@@ -175,21 +175,17 @@ void FindTime(benchmark::State& state, int calls) {
 }
 
 template <class History>
-void Register(const std::string& name) {
+bool Register(const std::string& name) {
   for (const int calls : {1000, 10'000}) {
     const std::string suffix = name + std::to_string(calls);
     benchmark::RegisterBenchmark(("RefreshHistory/" + suffix).c_str(), Refresh<History>, calls);
     benchmark::RegisterBenchmark(("HistoryPage/" + suffix).c_str(), ReadPage<History>, calls);
     benchmark::RegisterBenchmark(("HistoryByTime/" + suffix).c_str(), FindTime<History>, calls);
   }
+  return true;
 }
+[[maybe_unused]] const bool g_registered = Register<Ours>("zelto") && Register<Peer>("multi_index");
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  Register<Ours>("zelto");
-  Register<Peer>("multi_index");
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-}
+BENCHMARK_MAIN();

@@ -8,13 +8,13 @@
 #include <array>
 #include <atomic>
 #include <chrono>
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include "Common/ZeltoManager.h"
+#include "tests/support/DeviceRoot.h"
 
 namespace {
 
@@ -69,27 +69,11 @@ void Bare(benchmark::State& state) {
   for (std::thread& thread : threads) thread.join();
 }
 
-// A fresh device root with the runtime that lies beside this program.
-class DeviceRoot {
- public:
-  DeviceRoot() {
-    std::string name = (fs::temp_directory_path() / "zelto-idle-XXXXXX").string();
-    m_root = mkdtemp(name.data());
-    const fs::path home = m_root / "mtd_rwcommon/moip/engines/Zelto";
-    for (const fs::path& folder : {home, m_root / "dtv", m_root / "tmp"}) fs::create_directories(folder);
-    fs::create_symlink(fs::read_symlink("/proc/self/exe").parent_path() / "zelhost", home / "zelhost");
-    setenv("ZELTO_DEVICE_ROOT", m_root.c_str(), 1);
-  }
-  ~DeviceRoot() { fs::remove_all(m_root); }
-  DeviceRoot(const DeviceRoot&) = delete;
-  DeviceRoot& operator=(const DeviceRoot&) = delete;
-
- private:
-  fs::path m_root;
-};
-
+// On a fresh device, with the runtime that lies beside this program.
 void Engine(benchmark::State& state) {
-  const DeviceRoot root;
+  const test::DeviceRoot device;
+  const fs::path programs = fs::read_symlink("/proc/self/exe").parent_path();
+  fs::create_symlink(programs / "zelhost", device / "/mtd_rwcommon/moip/engines/Zelto/zelhost");
   CZeltoManager* engine = CZeltoManager::Create();
   engine->RegisterDataCallback([](const CAVData*, void*, void*) { return true; }, nullptr);
   const auto limit = std::chrono::steady_clock::now() + kReadyLimit;

@@ -25,6 +25,7 @@
 
 #include "Common/HostControl.h"
 #include "shmipc/shmipc.h"
+#include "tests/support/DeviceRoot.h"
 #include "zelhost/media/MediaLimits.h"
 #include "zelhost/media/ZelhostIPCInfo.h"
 #include "zelhost/media/ZelhostIPCManager.h"
@@ -204,22 +205,6 @@ class Runtime {
   unsigned m_pictures = 0;
 };
 
-class DeviceRoot {
- public:
-  DeviceRoot() {
-    std::string name = (fs::temp_directory_path() / "zelto-media-XXXXXX").string();
-    m_root = mkdtemp(name.data());
-    fs::create_directories(m_root / "tmp");
-    setenv("ZELTO_DEVICE_ROOT", m_root.c_str(), 1);
-  }
-  ~DeviceRoot() { fs::remove_all(m_root); }
-  DeviceRoot(const DeviceRoot&) = delete;
-  DeviceRoot& operator=(const DeviceRoot&) = delete;
-
- private:
-  fs::path m_root;
-};
-
 std::atomic<unsigned> g_picturesReceived{0};
 
 bool TakeRecord(const CAVData* record, void*, void*) {
@@ -228,7 +213,7 @@ bool TakeRecord(const CAVData* record, void*, void*) {
 }
 
 void CallZelto(benchmark::State& state) {
-  const DeviceRoot root;
+  const test::DeviceRoot root;
   zelto::HostControl::Get().SetDataCallback(&TakeRecord, nullptr);
   CZelhostIPCManager* const media = CZelhostIPCManager::GetInstance();
   media->Initialize();
