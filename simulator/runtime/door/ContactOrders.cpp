@@ -1,5 +1,4 @@
 // Orders about contacts: what other people do, and lists of any length.
-#include <algorithm>
 #include <limits>
 
 #include "simulator/runtime/door/OrderArguments.h"
@@ -86,8 +85,7 @@ void InventContacts(Controls& controls, const json& order, json& answer) {
   const std::string account = TextOf(order, "account", signedIn ? session.signIn.Name() : "demo");
   const int count = NumberOf(order, "count", 1, kMostInvented);
   const auto seed = order.contains("seed") ? NumberOf(order, "seed", 1, std::numeric_limits<int>::max()) : 1;
-  const std::size_t room = kMaxObjects - std::min(session.world.Objects().size(), kMaxObjects);
-  if (static_cast<std::size_t>(count) > room) Refuse("there are too many contacts already");
+  if (!session.world.HasRoomFor(count)) Refuse("there are too many contacts already");
   if (!session.service.Exists(account)) Refuse("there is no account " + account);
   const std::vector<std::string> invented =
       session.service.AddInventedContacts(account, count, static_cast<unsigned>(seed));

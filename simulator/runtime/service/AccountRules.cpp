@@ -33,12 +33,6 @@ bool IsLetter(char c) { return std::isalpha(static_cast<unsigned char>(c)) != 0;
 bool IsDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
 char Lower(char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); }
 
-std::string Lower(std::string_view text) {
-  std::string lower(text);
-  std::transform(lower.begin(), lower.end(), lower.begin(), [](char c) { return Lower(c); });
-  return lower;
-}
-
 std::string_view Trim(std::string_view text) {
   const auto begin = text.find_first_not_of(" \t");
   if (begin == std::string_view::npos) return {};
@@ -103,6 +97,12 @@ NameVerdict JudgeName(std::string_view name) {
 }
 
 }  // namespace
+
+std::string Lower(std::string_view text) {
+  std::string lower(text);
+  std::transform(lower.begin(), lower.end(), lower.begin(), [](char c) { return Lower(c); });
+  return lower;
+}
 
 PasswordVerdict JudgePassword(std::string_view name, std::string_view password) {
   if (password.size() < kMinPassword) return PasswordVerdict::TooShort;

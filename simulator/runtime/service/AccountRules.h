@@ -40,6 +40,9 @@ enum class NameVerdict : int {
 // Numbers of CONTACT_TYPE_MAP.
 enum class IdentityType : int { Unknown = 1, Account = 2, Phone = 3 };
 
+// Plain letters in lower case; everything else stays.
+std::string Lower(std::string_view text);
+
 PasswordVerdict JudgePassword(std::string_view name, std::string_view password);
 bool IsEmail(std::string_view text);
 

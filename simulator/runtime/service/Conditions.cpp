@@ -4,14 +4,10 @@
 #include <charconv>
 #include <optional>
 
+#include "simulator/runtime/service/AccountRules.h"
+
 namespace simulator {
 namespace {
-
-std::string Lower(std::string_view text) {
-  std::string lower(text);
-  for (char& c : lower) c = static_cast<char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
-  return lower;
-}
 
 std::optional<long long> NumberIn(std::string_view text) {
   long long number = 0;

@@ -40,11 +40,6 @@ constexpr unsigned kPhoneEvery = 20;
 
 bool IsPhone(std::string_view identity) { return TypeOfIdentity(identity) == IdentityType::Phone; }
 
-std::string Lower(std::string text) {
-  for (char& c : text) c = static_cast<char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
-  return text;
-}
-
 template <typename T, std::size_t N>
 const T& Pick(const T (&choices)[N], std::minstd_rand& random) {
   return choices[random() % N];

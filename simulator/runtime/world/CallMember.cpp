@@ -2,7 +2,6 @@
 
 #include "apiwrapper/tables/Classes.h"
 #include "simulator/runtime/service/AccountRules.h"
-#include "simulator/runtime/world/ContactProperties.h"
 
 namespace simulator {
 
@@ -13,11 +12,10 @@ CallMember::CallMember(const CallContext& context, const std::string& identity, 
       m_id(m_world.Create(CALLMEMBER_CLASS).id),
       m_status(status) {
   const IdentityType type = TypeOfIdentity(identity);
-  const Object* contact = context.contacts.Find(identity);
+  const std::string name = context.contacts.NameOf(identity);
   Object& object = *m_world.Find(m_id);
   m_world.Put(object, member::kIdentity, identity);
-  m_world.Put(object, member::kDisplayName,
-              contact == nullptr ? identity : contact->GetText(contact::kDisplayName));
+  m_world.Put(object, member::kDisplayName, name);
   m_world.PutInt(object, member::kType, static_cast<int>(type));
   m_world.PutInt(object, member::kStatus, status);
   m_world.PutInt(object, member::kVoiceLevel, 0);

@@ -143,9 +143,8 @@ bool Chats::Delete(unsigned id) {
 }
 
 bool Chats::InventChats(int count, std::uint32_t seed) {
-  if (!IsReady() || m_world.Objects().size() + static_cast<std::size_t>(count) > kMaxObjects) return false;
-  std::vector<std::string> friends = m_service.Contacts(m_account);
-  friends.push_back("sndtest");
+  if (!IsReady() || !m_world.HasRoomFor(count)) return false;
+  const std::vector<std::string> friends = m_contacts.Acquaintances();
   std::vector<ChatRecord> records;
   m_service.Together([&] {
     for (int i = 0; i < count; ++i) {

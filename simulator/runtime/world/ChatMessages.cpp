@@ -34,7 +34,7 @@ Object& Chats::NewMessage(unsigned id, Chat& of, const MessageRecord& record, in
   m_world.Put(object, message::kChat, m_world.Find(id)->GetText(chat::kName));
   m_world.PutInt(object, message::kAt, record.at);
   m_world.Put(object, message::kAuthor, record.author);
-  m_world.Put(object, message::kAuthorName, NameOf(record.author));
+  m_world.Put(object, message::kAuthorName, m_contacts.NameOf(record.author));
   m_world.PutInt(object, message::kType, record.type);
   m_world.Put(object, message::kBody, record.body);
   m_world.PutInt(object, message::kStatus, shownStatus);

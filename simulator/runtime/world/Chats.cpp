@@ -1,12 +1,11 @@
 #include "simulator/runtime/world/Chats.h"
 
-#include <algorithm>
 #include <ctime>
 
 #include "apiwrapper/tables/Classes.h"
 #include "simulator/runtime/service/AccountRules.h"
 #include "simulator/runtime/world/ChatProperties.h"
-#include "simulator/runtime/world/ContactProperties.h"
+#include "simulator/runtime/world/ObjectLists.h"
 
 namespace simulator {
 namespace {
@@ -128,28 +127,16 @@ Object* Chats::Create() {
 }
 
 std::vector<unsigned> Chats::All() {
-  std::vector<std::pair<std::int64_t, unsigned>> order;
-  if (IsReady()) {
-    for (const auto& [id, chat] : m_chats) order.emplace_back(-chat.record.active, id);
-  }
-  std::sort(order.begin(), order.end());
-  std::vector<unsigned> ids;
-  for (const auto& [active, id] : order) ids.push_back(id);
-  return ids;
+  if (!IsReady()) return {};
+  return NewestFirst(m_chats, [](const Chat& chat) { return chat.record.active; });
 }
 
 std::vector<unsigned> Chats::Unread() {
-  std::vector<unsigned> ids = All();
-  const auto isRead = [this](unsigned id) { return m_chats[id].record.unread == 0; };
-  ids.erase(std::remove_if(ids.begin(), ids.end(), isRead), ids.end());
-  return ids;
+  return Only(All(), [this](unsigned id) { return m_chats[id].record.unread != 0; });
 }
 
 std::vector<unsigned> Chats::Bookmarked() {
-  std::vector<unsigned> ids = All();
-  const auto isPlain = [this](unsigned id) { return !m_chats[id].record.bookmarked; };
-  ids.erase(std::remove_if(ids.begin(), ids.end(), isPlain), ids.end());
-  return ids;
+  return Only(All(), [this](unsigned id) { return m_chats[id].record.bookmarked; });
 }
 
 bool Chats::Recent(unsigned id, std::vector<unsigned>& messages) {
@@ -162,18 +149,13 @@ bool Chats::Recent(unsigned id, std::vector<unsigned>& messages) {
 
 // What a chat looks like.
 
-std::string Chats::NameOf(std::string_view identity) {
-  const Object* contact = m_contacts.Find(identity);
-  return contact == nullptr ? std::string(identity) : contact->GetText(contact::kDisplayName);
-}
-
 std::string Chats::TitleOf(const Chat& chat) {
-  if (chat.record.type == chat::kDialog) return NameOf(chat.record.partner);
+  if (chat.record.type == chat::kDialog) return m_contacts.NameOf(chat.record.partner);
   if (!chat.record.topic.empty()) return chat.record.topic;
   std::string names;
   for (const ChatPerson& person : chat.record.people) {
     if (!person.member || person.identity == m_signIn.Name()) continue;
-    names += (names.empty() ? "" : ", ") + NameOf(person.identity);
+    names += (names.empty() ? "" : ", ") + m_contacts.NameOf(person.identity);
   }
   return names;
 }
@@ -186,7 +168,7 @@ void Chats::Show(unsigned id, const Chat& chat, bool tell) {
     if (person.posted) posters += (posters.empty() ? "" : " ") + person.identity;
     count += person.member;
     if (!person.member || person.identity == m_signIn.Name()) continue;
-    members += (members.empty() ? "" : ", ") + NameOf(person.identity);
+    members += (members.empty() ? "" : ", ") + m_contacts.NameOf(person.identity);
   }
   const std::pair<int, std::string> values[] = {
       {chat::kTitle, TitleOf(chat)},

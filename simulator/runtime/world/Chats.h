@@ -98,7 +98,6 @@ class Chats {
   void Load(unsigned id, Chat& chat);
   void Show(unsigned id, const Chat& chat, bool tell);
   std::string TitleOf(const Chat& chat);
-  std::string NameOf(std::string_view identity);
   Object& NewMessage(unsigned chat, Chat& of, const MessageRecord& record, int shownStatus);
   unsigned Add(unsigned chat, Chat& to, MessageRecord record, int shownStatus);
   void Announce(unsigned chat, unsigned message);

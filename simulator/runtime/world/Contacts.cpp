@@ -120,6 +120,17 @@ Object* Contacts::Find(std::string_view identity) {
   return &object;
 }
 
+std::string Contacts::NameOf(std::string_view identity) {
+  const Object* contact = Find(identity);
+  return contact == nullptr ? std::string(identity) : contact->GetText(contact::kDisplayName);
+}
+
+std::vector<std::string> Contacts::Acquaintances() {
+  std::vector<std::string> people = m_service.Contacts(m_account);
+  people.push_back("sndtest");
+  return people;
+}
+
 Object* Contacts::FindByNumber(std::string_view number, int& property) {
   const NormalizedIdentity wanted = NormalizeIdentity(number, false);
   if (wanted.verdict != NameVerdict::Good || TypeOfIdentity(wanted.identity) != IdentityType::Phone)

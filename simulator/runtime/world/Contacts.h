@@ -26,6 +26,10 @@ class Contacts {
 
   // The contact of an account or phone number, made when it is met first; null for what is neither.
   Object* Find(std::string_view identity);
+  // What the contact is shown as; the identity itself when it is nobody's.
+  std::string NameOf(std::string_view identity);
+  // Whom invented calls, chats and voicemails are with: never nobody, since the sound test is always there.
+  std::vector<std::string> Acquaintances();
   // The listed contact that has this as its own or an assigned number, and the property that holds it; null
   // for nobody.
   Object* FindByNumber(std::string_view number, int& property);

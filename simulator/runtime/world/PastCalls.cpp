@@ -1,11 +1,9 @@
 #include "simulator/runtime/world/PastCalls.h"
 
-#include <algorithm>
-
 #include "apiwrapper/tables/Classes.h"
 #include "simulator/runtime/service/AccountRules.h"
 #include "simulator/runtime/world/CallProperties.h"
-#include "simulator/runtime/world/ContactProperties.h"
+#include "simulator/runtime/world/ObjectLists.h"
 
 namespace simulator {
 namespace {
@@ -77,21 +75,12 @@ void PastCalls::Keep(const CallCourse& course) {
 }
 
 std::vector<unsigned> PastCalls::All() {
-  std::vector<std::pair<std::int64_t, unsigned>> order;
-  if (IsReady()) {
-    for (const auto& [id, call] : m_calls) order.emplace_back(-call.record.started, id);
-  }
-  std::sort(order.begin(), order.end());
-  std::vector<unsigned> ids;
-  for (const auto& [started, id] : order) ids.push_back(id);
-  return ids;
+  if (!IsReady()) return {};
+  return NewestFirst(m_calls, [](const Call& call) { return call.record.started; });
 }
 
 std::vector<unsigned> PastCalls::UnseenMissed() {
-  std::vector<unsigned> ids = All();
-  const auto isSeen = [this](unsigned id) { return !m_calls[id].record.unseen; };
-  ids.erase(std::remove_if(ids.begin(), ids.end(), isSeen), ids.end());
-  return ids;
+  return Only(All(), [this](unsigned id) { return m_calls[id].record.unseen; });
 }
 
 std::vector<unsigned> PastCalls::Members(unsigned id) {
@@ -150,9 +139,8 @@ void PastCalls::Clear(int kind, const std::string& identity) {
 }
 
 bool PastCalls::Invent(int count, std::int64_t now) {
-  if (!IsReady() || m_world.Objects().size() + static_cast<std::size_t>(count) > kMaxObjects) return false;
-  std::vector<std::string> people = m_service.Contacts(m_account);
-  people.push_back("sndtest");
+  if (!IsReady() || !m_world.HasRoomFor(count)) return false;
+  const std::vector<std::string> people = m_contacts.Acquaintances();
   m_service.Together([&] {
     for (int i = 0; i < count; ++i) {
       const std::string& who = people[static_cast<std::size_t>(i) % people.size()];
@@ -162,9 +150,7 @@ bool PastCalls::Invent(int count, std::int64_t now) {
       const bool missed = record.incoming && i % 4 == 0;
       record.unseen = missed && i < 4 * kInventedMissed;
       record.duration = missed ? 0 : 10 + i % 600;
-      const Object* known = m_contacts.Find(who);
-      record.parties = {{who, known == nullptr ? who : known->GetText(contact::kDisplayName),
-                         static_cast<int>(TypeOfIdentity(who)),
+      record.parties = {{who, m_contacts.NameOf(who), static_cast<int>(TypeOfIdentity(who)),
                          missed ? int{member::kMissed} : int{member::kFinished}}};
       record.number = m_service.AddPastCall(m_account, record);
       Insert(std::move(record));

@@ -6,7 +6,6 @@
 #include "apiwrapper/tables/Classes.h"
 #include "apiwrapper/tables/Events.h"
 #include "simulator/runtime/service/AccountRules.h"
-#include "simulator/runtime/world/ContactProperties.h"
 #include "simulator/runtime/world/VoicemailProperties.h"
 
 namespace simulator {
@@ -33,8 +32,7 @@ bool Voicemails::IsReady() {
 unsigned Voicemails::Insert(const VoicemailRecord& record) {
   World& world = m_context.world;
   if (world.IsFull()) return 0;
-  const Object* partner = m_context.contacts.Find(record.partner);
-  const std::string& name = partner == nullptr ? record.partner : partner->GetText(contact::kDisplayName);
+  const std::string name = m_context.contacts.NameOf(record.partner);
   Object& object = world.Create(VOICEMAIL_CLASS);
   world.PutInt(object, voicemail::kType, voicemail::kIncoming);
   world.Put(object, voicemail::kPartner, record.partner);
@@ -76,10 +74,8 @@ Object* Voicemails::Come(std::string_view from, int seconds) {
 }
 
 bool Voicemails::Invent(int count) {
-  const std::size_t objects = m_context.world.Objects().size();
-  if (!IsReady() || objects + static_cast<std::size_t>(count) > kMaxObjects) return false;
-  std::vector<std::string> people = m_context.service.Contacts(m_account);
-  people.push_back("sndtest");
+  if (!IsReady() || !m_context.world.HasRoomFor(count)) return false;
+  const std::vector<std::string> people = m_context.contacts.Acquaintances();
   const std::int64_t now = std::time(nullptr) + m_context.clockDifference;
   m_context.service.Together([&] {
     for (int i = count; i > 0; --i) {

@@ -53,8 +53,9 @@ class World {
 
   // The object lives until Delete() or Clear(); its id is never used again.
   Object& Create(const ZEClass& type);
-  // More objects than any engine needs: somebody asks for the sake of asking.
-  bool IsFull() const { return m_objects.size() >= kMaxObjects; }
+  // There can be more objects than any engine needs: whoever wants more asks for the sake of asking.
+  bool HasRoomFor(int more) const { return m_objects.size() + static_cast<std::size_t>(more) <= kMaxObjects; }
+  bool IsFull() const { return !HasRoomFor(1); }
   // Null for an unknown id.
   Object* Find(unsigned id);
   const std::unordered_map<unsigned, Object>& Objects() const { return m_objects; }
