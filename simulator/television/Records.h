@@ -7,6 +7,9 @@
 
 namespace television {
 
+// Ends each field of a record.
+inline constexpr std::string_view kFieldSeparator = "\x03\x02";
+
 using Record = std::vector<std::string>;
 
 // The records of a list query of the engine, each of that many fields; an incomplete one at the end is left

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "simulator/television/Records.h"
+
 namespace television {
 
 namespace {
-
-constexpr std::string_view kFieldSeparator = "\x03\x02";
 
 std::string Unescaped(char next) {
   switch (next) {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "Common/Platform.h"
+#include "shmipc/leftovers.h"
 #include "shmipc/segment.h"
 #include "shmipc/shmipc.h"
 #include "tests/support/DeviceRoot.h"
@@ -45,12 +46,14 @@ class SleepRecorder : public StandIn {
   std::function<void()> afterStep;
 };
 
-// A device root with a key file in it. At its end the segments of its keys are gone.
+// A device root with a key file in it, whose keys belong to no segment before and none after the test: the
+// file can have the number of one that a killed process once had.
 class ChannelFixture : public testing::Test {
  protected:
   static constexpr char kPath[] = "/tmp/shmipc2_conn";
   static constexpr int kProject = 1;
 
+  ChannelFixture() { SHMIPC_claim_keys(); }
   ~ChannelFixture() override;
 
   Channel Open(unsigned size, bool create, int project = kProject) const {

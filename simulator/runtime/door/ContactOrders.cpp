@@ -84,7 +84,7 @@ void InventContacts(Controls& controls, const json& order, json& answer) {
   const bool signedIn = !session.signIn.Name().empty();
   const std::string account = TextOf(order, "account", signedIn ? session.signIn.Name() : "demo");
   const int count = NumberOf(order, "count", 1, kMostInvented);
-  const auto seed = order.contains("seed") ? NumberOf(order, "seed", 1, std::numeric_limits<int>::max()) : 1;
+  const int seed = NumberOf(order, "seed", 1, std::numeric_limits<int>::max(), 1);
   if (!session.world.HasRoomFor(count)) Refuse("there are too many contacts already");
   if (!session.service.Exists(account)) Refuse("there is no account " + account);
   const std::vector<std::string> invented =

@@ -130,9 +130,6 @@ void GetVideo(Session& session, Exchange& exchange) {
   exchange.Answer(ZEKey::Result, static_cast<long long>(id));
 }
 
-// Nobody is passed on to anybody, nor called again from the member of a call that is over.
-void Decline(Session&, Exchange& exchange) { exchange.Answer(ZEKey::Result, 0LL); }
-
 // Pictures.
 
 template <void (CallVideo::*kAct)()>
@@ -153,10 +150,9 @@ void CaptureImage(Session& session, Exchange& exchange) {
   exchange.Answer(ZEKey::Height, kPictureHeight);
 }
 
-// What makes no difference to a simulated far end: topics, tokens, whom a voicemail is from, where a
-// picture is shown on a screen that the runtime has not.
-void TakeNote(Session&, Exchange&) {}
-
+// Topics, tokens, whom a voicemail is from, and where a picture is shown on a screen that the runtime has not
+// make no difference to a simulated far end. Nobody is passed on to anybody, nor called again from the member
+// of a call that is over.
 // clang-format off
 constexpr HandlerRow kRows[] = {
     {&RootMethod::CreateCall,                   CreateCall},

@@ -97,12 +97,8 @@ void GetContacts(Session& session, Exchange& exchange) {
   exchange.AnswerObjects(ZEKey::Objects, contacts);
 }
 
-// Passwords, pictures, guidelines, files and other roles: simulated chats have none.
-void Decline(Session&, Exchange& exchange) { exchange.Answer(ZEKey::Result, 0LL); }
-
-// Nobody looks at what the user is typing.
-void TakeNote(Session&, Exchange&) {}
-
+// Simulated chats have no passwords, pictures, guidelines, files and other roles, and nobody in them looks at
+// what the user is typing.
 // clang-format off
 constexpr HandlerRow kRows[] = {
     {&RootMethod::CreateChat,              CreateChat},

@@ -79,6 +79,9 @@ bool MakesObject(const ZEMethod& method) {
 
 }  // namespace
 
+void Decline(Session&, Exchange& exchange) { exchange.Answer(ZEKey::Result, 0LL); }
+void TakeNote(Session&, Exchange&) {}
+
 void Dispatcher::Serve(std::string_view text) {
   const ZEMethod* method = nullptr;
   std::string error;

@@ -28,6 +28,10 @@ constexpr HandlerRows RowsOf(const HandlerRow (&rows)[N]) {
   return {rows, N};
 }
 
+// What many requests come to that mean nothing to a simulated service: the answer is no, or there is none.
+void Decline(Session&, Exchange& exchange);
+void TakeNote(Session&, Exchange&);
+
 HandlerRows ObjectHandlers();   // properties of all objects
 HandlerRows RootHandlers();     // start, stop, versions, clocks
 HandlerRows SettingHandlers();  // the settings store

@@ -31,10 +31,7 @@ void MarkSeen(Session& session, Exchange& exchange) {
   exchange.Answer(ZEKey::Result, session.voicemails.MarkSeen(exchange.Target().id));
 }
 
-// Nothing is recorded beside a call, nor passed on.
-void Decline(Session&, Exchange& exchange) { exchange.Answer(ZEKey::Result, 0LL); }
-void TakeNote(Session&, Exchange&) {}
-
+// No voicemail is recorded other than in a call, and none is passed on.
 // clang-format off
 constexpr HandlerRow kRows[] = {
     {&RootMethod::GetHistoricalCalls,     List<&PastCalls::All>},

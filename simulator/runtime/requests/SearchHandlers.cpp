@@ -155,12 +155,10 @@ void GetResults(Session& session, Exchange& exchange) {
 
 void Release(Session& session, Exchange& exchange) { session.searches.Release(exchange.Target().id); }
 
-// A search has found all there is.
-void Extend(Session&, Exchange&) {}
-
 // There is nothing of the kind, so the list is empty.
 void EmptyList(Session&, Exchange& exchange) { exchange.Answer(ZEKey::Result, ""); }
 
+// A search has found all there is, so nothing comes of extending it.
 // clang-format off
 constexpr HandlerRow kRows[] = {
     {&RootMethod::NewSearch,           NewSearch},
@@ -169,10 +167,10 @@ constexpr HandlerRow kRows[] = {
     {&RootMethod::SearchObjects,       SearchObjects},
     {&ContactSearchMethod::GetResults, GetResults},
     {&ContactSearchMethod::Release,    Release},
-    {&ContactSearchMethod::Extend,     Extend},
+    {&ContactSearchMethod::Extend,     TakeNote},
     {&SearchMethod::GetResults,        GetResults},
     {&SearchMethod::Release,           Release},
-    {&SearchMethod::Extend,            Extend},
+    {&SearchMethod::Extend,            TakeNote},
     {&RootMethod::GetActiveTransfers,  EmptyList},
 };
 // clang-format on

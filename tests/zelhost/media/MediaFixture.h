@@ -17,6 +17,7 @@
 #include "tests/support/DeviceRoot.h"
 #include "tests/support/FastClock.h"
 #include "tests/support/RecordingHost.h"
+#include "tests/support/SurvivalCheck.h"
 #include "tests/support/Watchdog.h"
 #include "zelhost/media/ZelhostIPCManager.h"
 
@@ -108,6 +109,7 @@ class MediaFixture : public testing::Test {
 
   Watchdog m_watchdog{60};
   DeviceRoot m_device;
+  SurvivalCheck m_survival;
   FastClock m_clock{20};
   RecordingHost m_host;
   CZelhostIPCManager* const m_media = CZelhostIPCManager::GetInstance();

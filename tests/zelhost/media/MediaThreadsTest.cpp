@@ -187,6 +187,7 @@ TEST_F(AMediaBridge, EndsWhileTheRuntimeReadsNothing) {
     if (call == 0) m_media->StopExchangeData(1);
     m_media->StopExchangeData(5);
   }
+  HangUp();  // by then the runtime is gone, and with it the last user of the segments
   m_media->Destroy();
   m_media->StartExchangeData(1);  // without channels
   zelto::SleepMilliseconds(100);
