@@ -20,7 +20,7 @@
 
 #include "apiwrapper/ZESocketTransport.h"
 #include "apiwrapper/Zelto.h"
-#include "simulator/runtime/Connection.h"
+#include "simulator/common/Connection.h"
 
 namespace {
 

@@ -6,10 +6,10 @@
 #include <memory>
 #include <string>
 
+#include "simulator/common/Frames.h"
 #include "simulator/runtime/Log.h"
 #include "simulator/runtime/Session.h"
 #include "simulator/runtime/protocol/Decoder.h"
-#include "simulator/runtime/protocol/Frames.h"
 #include "simulator/runtime/protocol/Message.h"
 #include "simulator/runtime/requests/Dispatcher.h"
 #include "simulator/runtime/service/SimulatedService.h"

@@ -3,7 +3,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 BUILD_PACKAGES=(g++ cmake ninja-build ccache pkg-config libsqlite3-dev nlohmann-json3-dev libcli11-dev libedit-dev
-  libicu-dev libturbojpeg0-dev libsndfile1-dev)
+  libicu-dev libturbojpeg0-dev libsndfile1-dev libphonenumber-dev zlib1g-dev)
 CHECK_PACKAGES=(clang libclang-rt-14-dev libgtest-dev libgmock-dev)
 BENCH_PACKAGES=(libbenchmark-dev rapidjson-dev libsimdjson-dev libsystemd-dev libzmq3-dev libboost-dev
   liblua5.4-dev gperf)

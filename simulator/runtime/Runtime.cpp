@@ -1,12 +1,10 @@
 #include "simulator/runtime/Runtime.h"
 
 #include <sys/epoll.h>
-#include <sys/signalfd.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
-#include <csignal>
 #include <utility>
 
 #include "apiwrapper/ZEProtocol.h"
@@ -42,26 +40,13 @@ Runtime::Runtime(const Options& options)
       m_scenario(m_orders, m_scheduler),
       m_socket(options.socket),
       m_door(m_loop, m_device.Folder() + "/door",
-             [this](std::string_view line) { return m_orders.ExecuteLine(line); }) {
+             [this](std::string_view line) { return m_orders.ExecuteLine(line); }),
+      m_signals(m_loop, [this] { m_ended = true; }) {
   if (!options.scenario.empty()) m_scenario.ReadFile(options.scenario);
   m_loop.Watch(m_socket.Descriptor(), EPOLLIN, [this](std::uint32_t) { AcceptEngine(); });
-  WatchSignals();
 }
 
-Runtime::~Runtime() {
-  Disconnect();
-  if (m_signals >= 0) close(m_signals);
-}
-
-void Runtime::WatchSignals() {
-  sigset_t signals;
-  sigemptyset(&signals);
-  sigaddset(&signals, SIGTERM);
-  sigaddset(&signals, SIGINT);
-  m_signals = signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
-  if (m_signals < 0) return;
-  m_loop.Watch(m_signals, EPOLLIN, [this](std::uint32_t) { m_ended = true; });
-}
+Runtime::~Runtime() { Disconnect(); }
 
 void Runtime::Run() {
   RunSchedulers();

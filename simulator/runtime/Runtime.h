@@ -7,8 +7,9 @@
 #include <memory>
 #include <optional>
 
-#include "simulator/runtime/EventLoop.h"
-#include "simulator/runtime/ListeningSocket.h"
+#include "simulator/common/EndSignals.h"
+#include "simulator/common/EventLoop.h"
+#include "simulator/common/ListeningSocket.h"
 #include "simulator/runtime/Options.h"
 #include "simulator/runtime/Session.h"
 #include "simulator/runtime/Wire.h"
@@ -38,7 +39,6 @@ class Runtime {
   void Run();
 
  private:
-  void WatchSignals();
   void AcceptEngine();
   void ServeEngine();
   void WatchEngine();
@@ -63,7 +63,7 @@ class Runtime {
   std::optional<Dispatcher> m_dispatcher;
   ListeningSocket m_socket;
   Door m_door;
-  int m_signals = -1;
+  EndSignals m_signals;
   bool m_watchesOutput = false;
   bool m_stopAsked = false;  // by the engine: the connection ends when everything is written
   bool m_ended = false;

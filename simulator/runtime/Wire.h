@@ -7,7 +7,7 @@
 #include <memory>
 #include <utility>
 
-#include "simulator/runtime/Connection.h"
+#include "simulator/common/Connection.h"
 #include "simulator/runtime/protocol/Decoder.h"
 #include "simulator/runtime/world/World.h"
 

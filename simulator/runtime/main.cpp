@@ -1,15 +1,15 @@
 // The program zelhost.
 #include <unistd.h>
 
-#include <csignal>
 #include <cstdio>
 #include <exception>
 
+#include "simulator/common/EndSignals.h"
+#include "simulator/common/Frames.h"
 #include "simulator/runtime/Log.h"
 #include "simulator/runtime/Options.h"
 #include "simulator/runtime/Runtime.h"
 #include "simulator/runtime/protocol/Decoder.h"
-#include "simulator/runtime/protocol/Frames.h"
 
 namespace {
 
@@ -33,14 +33,7 @@ int DecodeInput() {
 }
 
 int Serve(const simulator::Options& options) {
-  sigset_t signals;
-  sigemptyset(&signals);
-  sigaddset(&signals, SIGTERM);
-  sigaddset(&signals, SIGINT);
-  // They are read where the sockets are; the process may have been started with either ignored.
-  std::signal(SIGTERM, SIG_DFL);
-  std::signal(SIGINT, SIG_DFL);
-  sigprocmask(SIG_BLOCK, &signals, nullptr);
+  simulator::EndSignals::Block();
   simulator::Runtime runtime(options);
   runtime.Run();
   return 0;

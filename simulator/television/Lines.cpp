@@ -26,6 +26,7 @@ enum HistoryField {
 };
 enum FoundField { kIdentity, kName, kCountry, kCity };
 enum BlockedField { kBlocked, kBlockedName };
+enum CountryField { kCountryName, kCallingCode, kISOCode };
 
 constexpr char kSeveralPersons[] = "3";
 
@@ -106,6 +107,11 @@ std::string FoundContactLine(const Record& contact) {
 std::string BlockedContactLine(const Record& contact) {
   return WithoutBlanksAtTheEnd(Column(Named(contact[kBlockedName], contact[kBlocked]), 24) +
                                Readable(contact[kBlocked]));
+}
+
+std::string CountryLine(const Record& country) {
+  return Column(Readable(country[kCountryName]), 40) + Column('+' + Readable(country[kCallingCode]), 6) +
+         Readable(country[kISOCode]);
 }
 
 }  // namespace television

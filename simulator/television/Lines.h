@@ -12,6 +12,7 @@ inline constexpr std::size_t kMessageFields = 5;
 inline constexpr std::size_t kHistoryFields = 10;
 inline constexpr std::size_t kFoundContactFields = 4;
 inline constexpr std::size_t kBlockedContactFields = 2;
+inline constexpr std::size_t kCountryFields = 3;
 
 // Records of the engine as a viewer reads them, in one line each.
 std::string ChatLine(const Record& chat);
@@ -20,5 +21,6 @@ std::string MessageLine(const Record& message);
 std::string HistoryLine(const Record& entry, bool missed);
 std::string FoundContactLine(const Record& contact);
 std::string BlockedContactLine(const Record& contact);
+std::string CountryLine(const Record& country);
 
 }  // namespace television

@@ -31,6 +31,7 @@ class Screen {
   // at most.
   void Progress(const std::string& text);
   void EndProgress();
+  bool IsTerminal() const { return m_terminal; }
   // For a prompt.
   std::FILE* Stream() { return m_out.get(); }
 

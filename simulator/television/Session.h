@@ -19,7 +19,8 @@ namespace television {
 // A television with its engine, driven by lines: the engine's string commands by their names, the host
 // queries, and a few words of the console's own (Session.cpp lists them in one table; SessionCalls.cpp has
 // those about calls, SessionLists.cpp about chats, history and the directory, SessionNotices.cpp about
-// notices). A person at the prompt and a script use the same lines. Threads: one.
+// notices, SessionNumbers.cpp about telephone numbers, SessionInstall.cpp the one that installs). A person at
+// the prompt and a script use the same lines. Threads: one.
 class Session {
  public:
   // Throws std::runtime_error when the library cannot be loaded or the media can't be used.
@@ -71,9 +72,12 @@ class Session {
   void ListHistory(const Words& words);
   void ListFound(const Words& words);
   void ListBlocked(const Words& words);
+  void ListCountries(const Words& words);
+  void Dial(const Words& words);
   void Call(const Words& words);
   void AnswerCall(const Words& words);
   void HangUp(const Words& words);
+  void InstallPackage(const Words& words);
   void ShowMedia(const Words& words);
   void Watch(const Words& words);
   void CompareState(const Words& words);
@@ -91,6 +95,11 @@ class Session {
   void List(const Words& lines);
   // Runs a list query and lists its records.
   void ListRecords(const Words& query, std::size_t fields, std::string (*line)(const Record&));
+  bool IsServiceLoaded();
+  // The calling code of a country given by itself or by its ISO code; empty when it can't be told.
+  std::string CallingCodeOf(const std::string& country);
+  // Lines about where an international number belongs.
+  Words Origin(const std::string& number);
   void Hold(bool held, const std::string& expectation);
   bool Wait(const std::string& what, int seconds, const std::function<bool(const Report&)>& condition);
 

@@ -1,6 +1,7 @@
 // What `zelto-tv --tour` shows: a television is switched on, a viewer signs in, changes things, sees who is
-// there, calls and is called, reads notices in three scripts, signs out and is signed in by himself the next
-// time, sees what was missed, chats, hears a voicemail and changes the contact list.
+// there, looks how numbers are dialled, calls and is called, reads notices in three scripts, signs out and is
+// signed in by himself the next time, sees what was missed, chats, hears a voicemail and changes the contact
+// list.
 #pragma once
 
 namespace television {
@@ -52,6 +53,16 @@ contacts
 expect-like sndtest
 query GetContactStatus maria
 expect "yes | 1"
+
+say Telephone numbers: the picker of countries in Korean, and how numbers are dialled
+countries ko 5
+expect-like ^가나 +[+]233 +gh
+dial us 212 5551234
+expect-like [+]12125551234.*local +2125551234, 12125551234, 15551234, 5551234.*United States .us..*part +2125551234$
+dial kr 2 5551234
+expect-like [+]8225551234.*local +025551234.*South Korea .kr.
+dial gb 20 +33123456789
+expect-like [+]33123456789.*local +0033123456789.*France .fr..*part +123456789$
 
 say The viewer watches television, in Korean; somebody rings and gives up
 language Korean

@@ -4,7 +4,7 @@
 #include "apiwrapper/ZEStreamTransport.h"
 
 // Threads: as ZETransport.
-class ZESocketTransport : public ZEStreamTransport {
+class ZELTO_EXPORT ZESocketTransport : public ZEStreamTransport {
  public:
   // `path` is the television's own path, shorter than 108 bytes on this machine.
   explicit ZESocketTransport(const ZEString& path);

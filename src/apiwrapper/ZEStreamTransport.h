@@ -18,7 +18,7 @@ struct ZEStreamTexts {
 };
 
 // Threads: as ZETransport.
-class ZEStreamTransport : public ZETransport {
+class ZELTO_EXPORT ZEStreamTransport : public ZETransport {
  public:
   void push(const ZEString& message) override;
   ZEString pull(bool block) override;

@@ -4,7 +4,7 @@
 #include "apiwrapper/ZEStreamTransport.h"
 
 // Threads: as ZETransport.
-class ZETCPTransport : public ZEStreamTransport {
+class ZELTO_EXPORT ZETCPTransport : public ZEStreamTransport {
  public:
   // `address` is an IPv4 address in dotted decimal.
   ZETCPTransport(const ZEString& address, int port);

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "apiwrapper/ZEExport.h"
 #include "apiwrapper/ZEString.h"
 
 // A message stays below this many bytes: a corrupted length must not trigger an allocation of gigabytes.
@@ -10,7 +11,7 @@ constexpr std::uint32_t kFrameLengthLimit = 0x01000000;
 
 // Threads: no lock inside. At most one thread reads and at most one writes at a time; whoever owns the root
 // object serialises both.
-class ZETransport {
+class ZELTO_EXPORT ZETransport {
  public:
   ZETransport() = default;
   ZETransport(const ZETransport&) = delete;

@@ -68,13 +68,22 @@ int CZelhostZeltoManager::GetZeltoState() { return m_lifeCycle.GetState(); }
 
 const char* CZelhostZeltoManager::GetAvatarFolderPath() { return zelhost::kAvatarFolder; }
 
-// The runtime's country tables are not asked yet, so these answer as without a runtime.
-const char* CZelhostZeltoManager::GetCountryList() { return nullptr; }
-const char* CZelhostZeltoManager::GetCountryList(const char*) { return nullptr; }
-int CZelhostZeltoManager::GetISOCountryPrefix(const char*) { return 0; }
-const char* CZelhostZeltoManager::GetISOCountryName(const char*, const char*) { return nullptr; }
-const char* CZelhostZeltoManager::GetLocalNumber(const char*) { return nullptr; }
-const char* CZelhostZeltoManager::FindCountryCodeByNumber(const char*) { return nullptr; }
+const char* CZelhostZeltoManager::GetCountryList() { return GetCountryList("en"); }
+const char* CZelhostZeltoManager::GetCountryList(const char* language) {
+  return m_countries.GetCountryList(language);
+}
+int CZelhostZeltoManager::GetISOCountryPrefix(const char* countryCode) {
+  return m_countries.GetISOCountryPrefix(countryCode);
+}
+const char* CZelhostZeltoManager::GetISOCountryName(const char* countryCode, const char* language) {
+  return m_countries.GetISOCountryName(countryCode, language);
+}
+const char* CZelhostZeltoManager::GetLocalNumber(const char* number) {
+  return m_countries.GetLocalNumber(number);
+}
+const char* CZelhostZeltoManager::FindCountryCodeByNumber(const char* number) {
+  return m_countries.FindCountryCodeByNumber(number);
+}
 
 int CZelhostZeltoManager::GetLocalDBInt(int index) { return CZelhostLocalSetting::GetIntValue(index); }
 

@@ -7,6 +7,7 @@
 
 #include "Common/ZeltoManagerImp.h"
 #include "zelhost/ManagerInstance.h"
+#include "zelhost/countries/CountryCodes.h"
 #include "zelhost/lifecycle/ZelhostLifeCycle.h"
 #include "zelhost/widget/WidgetTimers.h"
 
@@ -42,6 +43,7 @@ class CZelhostZeltoManager : public CZeltoManagerImp {
 
   const char* GetAvatarFolderPath() override;
 
+  // Countries and telephone numbers; see CountryCodes. In English unless a language is given.
   const char* GetCountryList() override;
   const char* GetCountryList(const char* language) override;
   int GetISOCountryPrefix(const char* countryCode) override;
@@ -125,6 +127,7 @@ class CZelhostZeltoManager : public CZeltoManagerImp {
 
   CZelhostLifeCycle m_lifeCycle;
   WidgetTimers m_timers;
+  CountryCodes m_countries;
 
   std::array<std::string, kKeptAnswers> m_answers ZELTO_GUARDED_BY(zelhost::ServiceHostMutex::Get());
   std::size_t m_answer ZELTO_GUARDED_BY(zelhost::ServiceHostMutex::Get()) = 0;

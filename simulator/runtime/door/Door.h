@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "simulator/runtime/EventLoop.h"
-#include "simulator/runtime/ListeningSocket.h"
+#include "simulator/common/EventLoop.h"
+#include "simulator/common/ListeningSocket.h"
 
 namespace simulator {
 

@@ -53,9 +53,9 @@ void AddMethods(Table& table, const ZEMethod* const* begin, const ZEMethod* cons
 
 Table BuildTable() {
   std::unordered_map<const ZEMethod*, const HandlerRow*> handlers;
-  for (const HandlerRows& rows :
-       {ObjectHandlers(), RootHandlers(), SettingHandlers(), AccountHandlers(), ContactHandlers(),
-        CallHandlers(), NameHandlers(), ChatHandlers(), HistoryHandlers(), SearchHandlers()}) {
+  for (const HandlerRows& rows : {ObjectHandlers(), RootHandlers(), SettingHandlers(), AccountHandlers(),
+                                  ContactHandlers(), CallHandlers(), NameHandlers(), PhoneHandlers(),
+                                  ChatHandlers(), HistoryHandlers(), SearchHandlers()}) {
     for (const HandlerRow& row : rows) handlers.emplace(row.method, &row);
   }
   Table table;

@@ -39,6 +39,7 @@ HandlerRows AccountHandlers();  // accounts, signing in and out
 HandlerRows ContactHandlers();  // contacts and their groups
 HandlerRows CallHandlers();     // calls, their members and pictures
 HandlerRows NameHandlers();     // names and codes of countries and languages
+HandlerRows PhoneHandlers();    // calling codes of countries
 HandlerRows ChatHandlers();     // chats, their members and messages
 HandlerRows HistoryHandlers();  // calls that are over, voicemails
 HandlerRows SearchHandlers();   // the directory, and objects of all kinds

@@ -11,7 +11,7 @@
 #include <utility>
 
 #include "shmipc/shmipc.h"
-#include "simulator/runtime/Connection.h"
+#include "simulator/common/Connection.h"
 #include "tests/support/DeviceRoot.h"
 #include "tests/support/Watchdog.h"
 

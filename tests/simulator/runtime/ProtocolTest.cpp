@@ -1,8 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "simulator/common/Frames.h"
 #include "simulator/runtime/protocol/Decoder.h"
-#include "simulator/runtime/protocol/Frames.h"
 
 namespace simulator {
 namespace {

@@ -42,4 +42,5 @@ TEST(LinesForAViewer, TellWhoDidWhatAndWhatIsNew) {
               MatchesRegex("today +anna: one\\\\ntwo  \\(new\\)"));
   EXPECT_THAT(FoundContactLine({"slow.going", "", "Portugal", "Porto"}),
               MatchesRegex("slow.going +slow.going +Porto, Portugal"));
+  EXPECT_THAT(CountryLine({"Sweden", "46", "se"}), MatchesRegex("Sweden +\\+46 +se"));
 }

@@ -1,4 +1,4 @@
-#include "simulator/runtime/Connection.h"
+#include "simulator/common/Connection.h"
 
 #include <sys/socket.h>
 #include <unistd.h>

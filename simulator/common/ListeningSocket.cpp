@@ -1,4 +1,4 @@
-#include "simulator/runtime/ListeningSocket.h"
+#include "simulator/common/ListeningSocket.h"
 
 #include <fcntl.h>
 #include <sys/socket.h>

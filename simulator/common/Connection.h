@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "simulator/runtime/protocol/Frames.h"
+#include "simulator/common/Frames.h"
 
 namespace simulator {
 

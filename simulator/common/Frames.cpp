@@ -1,4 +1,4 @@
-#include "simulator/runtime/protocol/Frames.h"
+#include "simulator/common/Frames.h"
 
 #include <cstring>
 

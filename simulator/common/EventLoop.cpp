@@ -1,4 +1,4 @@
-#include "simulator/runtime/EventLoop.h"
+#include "simulator/common/EventLoop.h"
 
 #include <sys/epoll.h>
 #include <unistd.h>
