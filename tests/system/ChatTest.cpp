@@ -1,6 +1,5 @@
 #include "tests/system/RememberedService.h"
 
-
 namespace test {
 
 namespace {
@@ -91,16 +90,21 @@ TEST_F(AViewersChats, AreOpenedReadAnsweredAndLeft) {
   EXPECT_TRUE(Becomes([&] { return !IsThere(trip); }));
   EXPECT_EQ(Execute("GetNumOfChatList") + Execute("GetCurrentChatProperty", "1"), "1");
 
-  // The dialog's id becomes another chat's.
+  // The dialog's id becomes a voicemail's, and then another chat's.
   EXPECT_TRUE(Becomes([&] { return Unread() == "1 1"; }));
   ForgetsId(anna);
   EXPECT_TRUE(Arrives(kChatRemoved));
   EXPECT_EQ(Execute("GetNumOfChatList") + Unread(), "00 0");
+  IsToldToBeAVoicemail(anna);
+  Order({{"order", "message"}, {"from", "anna"}, {"text", "Are you there?"}});
+  EXPECT_EQ(Execute("OpenChatWithContact", "anna") + Execute("OpenChatWithChatName", key.c_str()), "00");
+  ForgetsId(anna);
+  EXPECT_EQ(Execute("GetNumOfChatList") + Unread(), "00 0");
   Set(std::to_string(anna), kTitle, "Another");
   Order({{"order", "message"}, {"from", "anna"}, {"text", "Still there?"}});
   ASSERT_TRUE(Arrives(kNewMessage));
-  EXPECT_EQ(Unread(), "1 2");
-  EXPECT_EQ(Execute("GetChatListWithIndex", "0", "10", "0"), ChatRecord(anna, "2"));
+  EXPECT_EQ(Unread(), "1 3");
+  EXPECT_EQ(Execute("GetChatListWithIndex", "0", "10", "0"), ChatRecord(anna, "3"));
 }
 
 TEST_F(AViewersChats, CostWithThousandsOfThemAndTenThousandMessagesWhatIsShown) {
@@ -125,11 +129,20 @@ TEST_F(AViewersChats, CostWithThousandsOfThemAndTenThousandMessagesWhatIsShown) 
   EXPECT_LE(FramesOf([&] { page = Execute("GetMessages", "9000", "9099"); }), 50 * 6 + 10);
   EXPECT_EQ(Unread(), "501 950");
 
+  // A message goes while its page is read; opened again, the chat has another one of that id.
+  const std::string message = std::to_string(IdOf("ChatMessage~850"));
+  OrderAfterFrames(1, "event ObjectDelete object=\"" + message + '"');
+  EXPECT_EQ(Fields(Execute("GetMessages", "9100", "9199")).size(), 100u * 5);
+  EXPECT_TRUE(Becomes([&] { return Execute("GetNumOfMessages") == "9999"; }));
+  page = Execute("GetMessages", "9140", "9160");
+  EXPECT_EQ(Execute("OpenChatWithContact", "emi.k"), "1");
+  EXPECT_EQ(Execute("GetNumOfMessages"), "10000");
+  EXPECT_NE(Execute("GetMessages", "9140", "9160"), page);
+  EXPECT_EQ(Unread(), "501 900");
+
   // The chat goes at another place while a page of it is read.
-  Order({{"order", "at"},
-         {"frame", Frames() + 20},
-         {"do", "delete object=" + chat["chat"].get<std::string>()}});
-  page = Execute("GetMessages", "9100", "9199");
+  OrderAfterFrames(20, "delete object=" + chat["chat"].get<std::string>());
+  page = Execute("GetMessages", "9200", "9299");
   EXPECT_EQ(Fields(page).size() % 5, 0u);
   EXPECT_TRUE(Arrives(kChatRemoved));
   EXPECT_EQ(Execute("GetNumOfChatList") + Execute("GetMessages", "0", "9") + Unread(), "1000500 500");

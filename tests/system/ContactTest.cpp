@@ -72,7 +72,8 @@ TEST_F(AViewersPeople, AreListedFoundAddedNamedBlockedAndRemoved) {
   EXPECT_EQ(Execute("GetOnlineContacts"), Record({"Inês", "Anna", "Bruno", "Chloé", "Echo Test", "Emi",
                                                   "Hugo", "Maria Sample", "Grandma", "Pizza"}));
   EXPECT_EQ(Execute("GetZeltoNameWithDisplayName", "Pizza"), "+35121555000");
-  EXPECT_EQ(Execute("HasVoiceMailCapability", "nobody at all"), "0");
+  EXPECT_EQ(Execute("HasVoiceMailCapability", "anna") + Execute("HasVoiceMailCapability", "nobody at all"),
+            "10");
 
   EXPECT_EQ(Execute("SearchNewContact", "mar"), "1");
   ASSERT_TRUE(Arrives(kFoundContacts));
@@ -97,6 +98,12 @@ TEST_F(AViewersPeople, AreListedFoundAddedNamedBlockedAndRemoved) {
             "01");
   EXPECT_EQ(Execute("GetContactList", "+15550199", "1", "0"),
             Record({"", "+15550199", "Taxi", "5", "", "", ""}));
+  // Her id is another's while that one lives.
+  const int greta = std::stoi(Object("greta"));
+  ForgetsId(greta);
+  IsToldToBeAVoicemail(greta);
+  EXPECT_EQ(Execute("Rename", "greta", "Aaron") + Execute("IsMyBuddy", "greta"), "01");
+  ForgetsId(greta);
   EXPECT_EQ(Execute("Rename", "greta", "Aaron"), "1");
   EXPECT_EQ(std::stoi(Place("greta")) + 1, std::stoi(Place("dmitri")));
   EXPECT_EQ(Execute("Rename", "no name", "Aaron"), "0");
@@ -113,6 +120,11 @@ TEST_F(AViewersPeople, AreListedFoundAddedNamedBlockedAndRemoved) {
   EXPECT_EQ(Execute("Block", "hugo", "0") + Execute("IsBlocked", "anna"), "10");
   EXPECT_TRUE(Arrives(kContactBlocked));
   EXPECT_EQ(Execute("IsBlocked", "hugo") + Execute("IsMyBuddy", "hugo"), "11");
+  // One of them goes while they are read, and comes again.
+  OrderAfterFrames(4, "event ObjectDelete object=\"" + Object("hugo") + '"');
+  EXPECT_THAT(Fields(Execute("GetBlockedContactList")),
+              UnorderedElementsAre("hugo", "Hugo", "jonas", "Jonas"));
+  Settle();
   EXPECT_THAT(Fields(Execute("GetBlockedContactList")),
               UnorderedElementsAre("hugo", "Hugo", "jonas", "Jonas"));
   for (const auto& [who, level] : {std::pair("hugo", "2"), {"jonas", "1"}}) {

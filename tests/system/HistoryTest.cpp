@@ -6,7 +6,6 @@ namespace test {
 
 namespace {
 
-constexpr int kIncomingVoicemail = 294;
 constexpr int kMissedCallsRead = 426;
 constexpr int kWidgetLaunch = 427;
 constexpr char kPage[] = "GetHistoryListIncludingTimestamp";
@@ -81,6 +80,70 @@ TEST_F(AViewersHistory, ShowsCallsAndVoicemailsAndMarksThemSeen) {
   EXPECT_EQ(Page(0, 20), records(0, 10));
   EXPECT_EQ(Heard(kMissedCallsRead), 3);
   EXPECT_TRUE(Becomes([&] { return Value("Call~4", kUnseen) == "0" && Value("Call", kUnseen) == "0"; }));
+}
+
+TEST_F(AViewersHistory, StaysAsItWasShownWhileItsObjectsGoAndItsSuccessorComes) {
+  ASSERT_NO_FATAL_FAILURE(SignIn());
+  ASSERT_NO_FATAL_FAILURE(SignInAgain());
+  Order({{"order", "history"}, {"count", 10}});
+  ASSERT_NO_FATAL_FAILURE(Refresh());
+  const std::string newest = CallRecord(0, 9, true);
+  const std::string voicemail = VoicemailRecord("Voicemail", "1");
+
+  // The id of the newest missed call is another call's now: the entry stays, but that call is left alone.
+  const int reused = IdOf("Call~8");
+  const std::string call = std::to_string(reused);
+  ForgetsId(reused);
+  EXPECT_EQ(Page(0, 2), newest + voicemail);
+  EXPECT_EQ(Fields(Page(2, 2)).size(), 2 * kRecordFields);
+  EXPECT_EQ(Heard(kMissedCallsRead), 1);
+  EXPECT_TRUE(Becomes([&] { return Value("Call~4", kUnseen) == "0" && Value("Call", kUnseen) == "0"; }));
+  EXPECT_EQ(Value(call, kUnseen), "1");
+  Set(call, kStarted, "1000000000");
+  ASSERT_NO_FATAL_FAILURE(Refresh());
+  EXPECT_EQ(Page(0, 2), voicemail + CallRecord(0, 9, true));
+  EXPECT_TRUE(Becomes([&] { return Value(call, kUnseen) == "0"; }));
+
+  // Then it is said to be a voicemail's, which is no entry and can be none of a call either.
+  ForgetsId(reused);
+  IsToldToBeAVoicemail(reused);
+  ASSERT_NO_FATAL_FAILURE(Refresh());
+  EXPECT_EQ(Execute("GetNumOfHistories"), "9");
+  EXPECT_EQ(Execute("GetHistoryIndexWithTimestamp", "1000000000"), "-1");
+  ForgetsId(reused);
+  ASSERT_NO_FATAL_FAILURE(Refresh());
+  EXPECT_EQ(Execute("GetHistoryIndexWithTimestamp", "1000000000"), "9");
+
+  // A call and the voicemail go at another place while a page that shows both is read.
+  const int gone = IdOf("Call~4");
+  const int heard = IdOf("Voicemail");
+  for (const auto& [object, frame] : {std::pair(gone, 1), {heard, 2}}) {
+    OrderAfterFrames(frame, "delete object=\"" + std::to_string(object) + '"');
+  }
+  const std::string page = Page(0, 10);
+  EXPECT_EQ(Fields(page).size(), 10 * kRecordFields);
+  EXPECT_TRUE(Becomes([&] { return !IsThere(gone) && !IsThere(heard); }));
+  Settle();
+  EXPECT_EQ(Page(0, 10), page);
+  EXPECT_EQ(Execute("PlayVoicemail", "0") + Execute("StopVoicemail", "0"), "00");
+  ASSERT_NO_FATAL_FAILURE(Refresh());
+  EXPECT_EQ(Execute("GetNumOfHistories"), "8");
+
+  // What was shown before stays while the next list is being searched for. Who arrives meanwhile is in it
+  // once.
+  const int changes = Heard(kHistoryChanged);
+  const std::string before = Page(0, 20);
+  Order({{"order", "hold-search"}});
+  StartRefresh();
+  ASSERT_TRUE(Becomes([&] { return IsThere("Search~2"); }));  // calls, voicemails, chats
+  const int come = Order({{"order", "voicemail"}, {"from", "bruno"}})["object"];
+  ASSERT_TRUE(Arrives(kIncomingVoicemail));
+  EXPECT_EQ(Page(0, 20), before);
+  EXPECT_EQ(Heard(kHistoryChanged), changes);
+  Order({{"order", "hold-search"}, {"on", false}});
+  ASSERT_TRUE(Arrives(kHistoryChanged));
+  EXPECT_EQ(Page(0, 20), VoicemailRecord(std::to_string(come), "1") + before);
+  EXPECT_EQ(Heard(kHistoryChanged), changes + 1);
 }
 
 TEST_F(AViewersHistory, TakesAVoicemailOnceThatArrivesWhileItIsLookedFor) {

@@ -20,6 +20,7 @@ namespace test {
 
 constexpr int kContactUpdated = 258;
 constexpr int kContactRemoved = 259;
+constexpr int kIncomingVoicemail = 294;
 constexpr int kUnreadCountChanged = 372;
 constexpr int kHistoryChanged = 378;
 
@@ -50,10 +51,11 @@ class AViewerWithAPast : public ATelevision {
     EXPECT_TRUE(answer.value("ok", false)) << order << ": " << answer;
     return answer;
   }
-  bool IsThere(int object) {
-    const json order = {{"order", "object"}, {"object", std::to_string(object)}};
+  bool IsThere(const std::string& object) {
+    const json order = {{"order", "object"}, {"object", object}};
     return json::parse(Door(order.dump())).value("ok", false);
   }
+  bool IsThere(int object) { return IsThere(std::to_string(object)); }
   // What the runtime holds under that id or name of a class.
   std::string Value(const std::string& object, int property) {
     const json answer = Order({{"order", "object"}, {"object", object}});
@@ -85,6 +87,22 @@ class AViewerWithAPast : public ATelevision {
   // it is another object's.
   void ForgetsId(int object) {
     Order({{"order", "event"}, {"event", "ObjectDelete"}, {"object", std::to_string(object)}});
+    Settle();
+  }
+  // From now on the id belongs to another class for the engine.
+  void IsToldToBeAVoicemail(int object) {
+    Order({{"order", "event"}, {"event", "IncomingVoicemail"}, {"object", std::to_string(object)}});
+    EXPECT_TRUE(Arrives(kIncomingVoicemail));
+  }
+  // An order to be carried out when so many frames more have passed: in the midst of what comes next.
+  void OrderAfterFrames(int frames, const std::string& words) {
+    Order({{"order", "at"}, {"frame", Frames() + frames}, {"do", words}});
+  }
+  // The engine has taken everything that the runtime has told.
+  void Settle() {
+    const std::string mood = "settled " + std::to_string(++m_settled);
+    Order({{"order", "contact"}, {"identity", "emi.k"}, {"mood", mood}});
+    EXPECT_TRUE(Becomes([&] { return Execute("GetContactPropWithName", "emi.k", "33") == mood; }));
   }
   // Frames in both directions until now, and those that something costs.
   int Frames() { return Order({{"order", "status"}})["frames"]; }
@@ -138,6 +156,7 @@ class AViewerWithAPast : public ATelevision {
  private:
   std::mutex m_mutex;
   std::vector<int> m_events;
+  int m_settled = 0;
 };
 
 }  // namespace test

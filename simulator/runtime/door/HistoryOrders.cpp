@@ -1,4 +1,5 @@
-// Orders about what has been: voicemails, calls that are over, and what is deleted at another place.
+// Orders about what has been: voicemails, calls that are over, what is deleted at another place, and when
+// searches find it.
 #include <ctime>
 
 #include "simulator/runtime/door/OrderArguments.h"
@@ -44,6 +45,10 @@ void DeleteElsewhere(Controls& controls, const json& order, json&) {
   if (!session.chats.Delete(id) && !session.pastCalls.Delete(id) && !session.voicemails.Delete(id)) {
     Refuse("there is no chat, past call or voicemail " + name);
   }
+}
+
+void HoldSearches(Controls& controls, const json& order, json&) {
+  SessionOf(controls).searches.Hold(order.value("on", true));
 }
 
 }  // namespace orders

@@ -22,6 +22,7 @@ constexpr OrderRow kOrders[] = {
     {"voicemail",    "from",         orders::LeaveVoicemail},
     {"history",      "count",        orders::InventHistory},
     {"delete",       "object",       orders::DeleteElsewhere},
+    {"hold-search",  "on",           orders::HoldSearches},
     {"call",         "from",         orders::Call},
     {"answer",       "",             orders::ActInCall},
     {"refuse",       "",             orders::ActInCall},

@@ -51,6 +51,7 @@ void InventMessages(Controls& controls, const nlohmann::json& order, nlohmann::j
 void LeaveVoicemail(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
 void InventHistory(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
 void DeleteElsewhere(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
+void HoldSearches(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);
 
 // What the far end of a call does.
 void Call(Controls& controls, const nlohmann::json& order, nlohmann::json& answer);

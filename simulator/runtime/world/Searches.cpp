@@ -25,6 +25,10 @@ Object& Searches::Start(const Kind& kind, Find find) {
 }
 
 void Searches::Finish(const Kind& kind, unsigned id, const Find& find) {
+  if (m_holds) {
+    m_held.push_back([this, &kind, id, find] { Finish(kind, id, find); });
+    return;
+  }
   const auto place = m_results.find(id);
   Object* search = m_world.Find(id);
   if (place == m_results.end() || search == nullptr) return;
@@ -53,6 +57,12 @@ std::vector<unsigned> Searches::Results(unsigned id, int from, int limit) const 
 void Searches::Release(unsigned id) {
   m_results.erase(id);
   m_world.Delete(id);
+}
+
+void Searches::Hold(bool hold) {
+  m_holds = hold;
+  if (hold) return;
+  for (const auto& finish : std::exchange(m_held, {})) finish();
 }
 
 }  // namespace simulator

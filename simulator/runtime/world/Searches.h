@@ -38,6 +38,8 @@ class Searches {
   std::vector<unsigned> Results(unsigned search, int from, int limit) const;
   // Deletes the object, the engine being told.
   void Release(unsigned search);
+  // While held, searches run on; those that would be finished by then finish when they no longer are.
+  void Hold(bool hold);
 
  private:
   void Finish(const Kind& kind, unsigned search, const Find& find);
@@ -45,6 +47,8 @@ class Searches {
   World& m_world;
   Scheduler& m_scheduler;
   std::map<unsigned, std::vector<unsigned>> m_results;  // by the search: ids grow with time
+  bool m_holds = false;
+  std::vector<std::function<void()>> m_held;
 };
 
 }  // namespace simulator

@@ -45,18 +45,27 @@ const char* CZelhostChatManager::Result(std::string_view text) {
 bool CZelhostChatManager::RefreshChatList() {
   ServiceHostLock lock("RefreshChatList");
   if (g_lpZelto == nullptr) return false;
+  CSearch::GiveUp(m_pSearch);
   ForgetCurrentChat();
   m_ChatList.Clear();
   ZELTO_DEBUG("Send a request for Search::CHAT");
-  return CSearch::Start(*g_lpZelto, Search::CHAT) != nullptr;
+  m_pSearch = CSearch::Start(*g_lpZelto, Search::CHAT);
+  return m_pSearch != nullptr;
 }
 
 void CZelhostChatManager::ClearChatList() {
   ServiceHostLock lock("ClearChatList");
+  CSearch::GiveUp(m_pSearch);
   ForgetCurrentChat();
   m_ChatList.Clear();
   m_newMessageAlarm.Stop();
   m_bNewMessagePending = false;
+}
+
+void CZelhostChatManager::ForgetSearch(const CSearch* search) {
+  ServiceHostLock lock("ForgetSearch");
+  CZelhostChatManager* manager = m_instance.Existing();
+  if (manager != nullptr && manager->m_pSearch == search) manager->m_pSearch = nullptr;
 }
 
 bool CZelhostChatManager::AddToChatList(Chat* reported) {

@@ -3,12 +3,13 @@
 #include <string>
 
 #include "Common/ChatManagerImp.h"
-#include "zelhost/ManagerInstance.h"
 #include "zelhost/ManagerAlarm.h"
+#include "zelhost/ManagerInstance.h"
 #include "zelhost/chats/ChatList.h"
 
 class CChat;
 class CChatMessage;
+class CSearch;
 class Chat;
 class ChatMessage;
 
@@ -30,7 +31,9 @@ class CZelhostChatManager : public CChatManagerImp {
   CChatInfo* GetChatInfo(const char* name);
   // Text messages of the chat that nobody has read; 0 when the runtime doesn't tell.
   int GetNumOfUnreadMessages(Chat* chat);
-  // Empties the list; part of every sign-out.
+  // For a destructor: the search is going. It creates no manager.
+  static void ForgetSearch(const CSearch* search);
+  // Empties the list and gives up a search for chats; part of every sign-out.
   void ClearChatList();
   // The runtime deletes the chat: it leaves the list, and the widget is told.
   void OnDelete(Chat* chat);
@@ -88,6 +91,7 @@ class CZelhostChatManager : public CChatManagerImp {
 
   static inline zelhost::ManagerInstance<CZelhostChatManager> m_instance;
 
+  CSearch* m_pSearch = nullptr;  // null when it has answered
   ChatList m_ChatList;
   CChatInfo* m_pCurrentChat = nullptr;
   bool m_bChatOpened = false;  // a chat screen is open

@@ -10,6 +10,7 @@
 #include "Common/ZeltoManager.h"
 #include "apiwrapper/Call.h"
 #include "apiwrapper/Voicemail.h"
+#include "zelhost/apiwrapper/client/CSearch.h"
 #include "zelhost/apiwrapper/client/CZelto.h"
 
 using zelhost::ServiceHostLock;
@@ -86,8 +87,8 @@ void CZelhostHistoryManager::ForgetVoicemail(const Voicemail* voicemail) {
 
 void CZelhostHistoryManager::ClearHistoryList() {
   ServiceHostLock lock("ClearHistoryList");
-  GiveUp(m_pCallsSearch);
-  GiveUp(m_pVoicemailSearch);
+  CSearch::GiveUp(m_pCallsSearch);
+  CSearch::GiveUp(m_pVoicemailSearch);
   m_bNewListReady = m_bRefreshFailed = m_bRecheckVoicemail = false;
   m_HistoryList.Clear();
   m_NewHistoryList.Clear();

@@ -95,7 +95,6 @@ class CZelhostHistoryManager : public CHistoryManagerImp {
   Voicemail* VoicemailAt(int index) const ZELTO_REQUIRES(Host::Get());
 
   CSearch* StartSearch(Search::TARGET kind) ZELTO_REQUIRES(Host::Get());
-  static void GiveUp(CSearch*& search) ZELTO_REQUIRES(Host::Get());
   // Notes that a search is over; true when it was started again.
   bool EndSearch(int kind) ZELTO_REQUIRES(Host::Get());
   void Gather(zelhost::HistoryEntries entries) ZELTO_REQUIRES(Host::Get());

@@ -34,13 +34,6 @@ CSearch* CZelhostHistoryManager::StartSearch(Search::TARGET kind) {
   return search;
 }
 
-void CZelhostHistoryManager::GiveUp(CSearch*& search) {
-  CSearch* ended = std::exchange(search, nullptr);
-  if (ended == nullptr) return;
-  ended->Release();
-  delete ended;
-}
-
 void CZelhostHistoryManager::ForgetSearch(const CSearch* search) {
   ServiceHostLock lock("ForgetSearch");
   CZelhostHistoryManager* manager = m_instance.Existing();
@@ -54,8 +47,8 @@ bool CZelhostHistoryManager::RefreshHistoryList() {
   ZELTO_DEBUG("RefreshHistoryList\n");
   if (g_lpZelto == nullptr) return false;
   UpdateToNewList();  // nobody has asked for it yet, but it is newer than what is shown
-  GiveUp(m_pCallsSearch);
-  GiveUp(m_pVoicemailSearch);
+  CSearch::GiveUp(m_pCallsSearch);
+  CSearch::GiveUp(m_pVoicemailSearch);
   m_NewHistoryList.Clear();
   m_bRefreshFailed = m_bRecheckVoicemail = false;
   ZELTO_DEBUG("Send a request for Search::CALLS");

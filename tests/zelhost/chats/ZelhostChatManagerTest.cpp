@@ -129,8 +129,11 @@ class AChatList : public test::Service {
     m_runtime->reply("2077", Pair("0", "1") + Pair("1271", "101,102,103,104"));
     EXPECT_TRUE(Chats().RefreshChatList());
     EXPECT_EQ(m_runtime->requests("1864").back().arguments.at("1216"), "1764");
-    m_runtime->sendEvent("1305", "2073", Id("1137", 300) + Pair("1551", "1532") + Pair("1667", "1229"));
+    EndSearch(300);
     ASSERT_TRUE(IsTold(CZeltoManager::UNREAD_COUNT_CHANGED));
+  }
+  void EndSearch(unsigned search) {
+    m_runtime->sendEvent("1305", "2073", Id("1137", search) + Pair("1551", "1532") + Pair("1667", "1229"));
   }
   bool Add(unsigned id) {
     ServiceHostLock lock("the test");
@@ -307,6 +310,20 @@ TEST_F(AChatList, LosesWhatTheRuntimeDeletesAndTakesItsNumbersForOthers) {
   EXPECT_EQ(m_runtime->requests(kLeave).at(0).arguments.at("2028"), "1403");
   EXPECT_THAT(m_runtime->requests(kDelete), SizeIs(3));
   EXPECT_EQ(m_host.CountUntilNow(CZeltoManager::CHAT_REMOVED), 3);
+  EXPECT_EQ(Chats().GetNumOfChatList(), 1);
+}
+
+// Neither after a sign-out nor beside the next search may the results of an earlier one appear.
+TEST_F(AChatList, GivesUpASearchThatIsOvertaken) {
+  SetUpThree();
+  for (unsigned search = 301; search < 303; ++search) {
+    m_runtime->reply("1864", Pair("0", std::to_string(search)));
+    EXPECT_TRUE(Chats().RefreshChatList());
+    if (search == 302) Chats().ClearChatList();
+  }
+  for (unsigned search = 301; search < 303; ++search) EndSearch(search);
+  Report(22, 103);  // what is heard of afterwards is listed
+  ASSERT_TRUE(IsTold(CZeltoManager::UNREAD_COUNT_CHANGED, 2));
   EXPECT_EQ(Chats().GetNumOfChatList(), 1);
 }
 

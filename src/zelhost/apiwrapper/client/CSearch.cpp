@@ -1,8 +1,11 @@
 #include "zelhost/apiwrapper/client/CSearch.h"
 
+#include <utility>
+
 #include "apiwrapper/SearchTerm.h"
 #include "apiwrapper/ZEPtrVector.h"
 #include "apiwrapper/Zelto.h"
+#include "zelhost/chats/ZelhostChatManager.h"
 #include "zelhost/history/ZelhostHistoryManager.h"
 
 CSearch* CSearch::Start(Zelto& root, TARGET kind) {
@@ -12,7 +15,17 @@ CSearch* CSearch::Start(Zelto& root, TARGET kind) {
   return search;
 }
 
-CSearch::~CSearch() { CZelhostHistoryManager::ForgetSearch(this); }
+void CSearch::GiveUp(CSearch*& search) {
+  CSearch* ended = std::exchange(search, nullptr);
+  if (ended == nullptr) return;
+  ended->Release();
+  delete ended;
+}
+
+CSearch::~CSearch() {
+  CZelhostChatManager::ForgetSearch(this);
+  CZelhostHistoryManager::ForgetSearch(this);
+}
 
 void CSearch::OnChange(int property, const ZEString& value) {
   client::TraceChange(*this, kTraceSearch, property, value);

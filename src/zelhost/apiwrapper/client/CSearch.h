@@ -11,7 +11,9 @@ class CSearch : public ClientObject<Search, kTraceSearch> {
   // Starts a search for all objects of a kind, which becomes its type. Null when the runtime gives none; the
   // registry owns it.
   static CSearch* Start(Zelto& root, TARGET kind);
-  // The history manager forgets it.
+  // Ends a search whose results nobody wants any more, and forgets it. Nothing for null.
+  static void GiveUp(CSearch*& search);
+  // The managers forget it.
   ~CSearch() override;
 
   // What is searched for, a Search::TARGET; the receiver of the results is told.
